@@ -1,0 +1,26 @@
+# The window: the room desktop/, the program and its bundle.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+
+add_room(desktop PUBLIC editor app volumes document platform Qt6::Widgets)
+set_target_properties(desktop PROPERTIES AUTOMOC ON)
+
+set(bundle ${CMAKE_BINARY_DIR}/QuillonSettings.app)
+set(contents ${bundle}/Contents)
+add_executable(quillon-settings app/main.cpp)
+target_link_libraries(quillon-settings PRIVATE desktop)
+target_compile_definitions(quillon-settings PRIVATE QUILLON_VERSION="${PROJECT_VERSION}")
+set_target_properties(quillon-settings PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${contents}/MacOS)
+
+configure_file(resources/Info.plist.in ${contents}/Info.plist @ONLY)
+# Copied by name and only when they changed: the program keeps its own settings among them.
+set(resources Prefs.plist HappyMac.png HappyMac@2x.png)
+foreach(resource ${resources})
+  add_custom_command(
+    OUTPUT ${contents}/Resources/${resource}
+    COMMAND ${CMAKE_COMMAND} -E copy ${CMAKE_SOURCE_DIR}/resources/${resource}
+            ${contents}/Resources/${resource}
+    DEPENDS resources/${resource})
+  list(APPEND copies ${contents}/Resources/${resource})
+endforeach()
+add_custom_target(bundle ALL DEPENDS ${copies})
+add_dependencies(quillon-settings bundle)

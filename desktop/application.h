@@ -1,0 +1,18 @@
+#pragma once
+
+#include "desktop/edits.h"
+#include "platform/application.h"
+
+namespace desktop {
+
+/// The running Qt application.
+class Application : public platform::Application {
+ public:
+  void terminate() override;
+  void exitNow() override;
+  void makeFirstResponder(platform::TextField& field) override;
+
+  Edits edits;
+};
+
+}  // namespace desktop

@@ -1,0 +1,236 @@
+#include "desktop/controls.h"
+
+#include <QAbstractSpinBox>
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <limits>
+
+#include "desktop/stepper_box.h"
+#include "desktop/texts.h"
+
+namespace desktop {
+namespace {
+
+class WheelGuard : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::Wheel) {
+      return QObject::eventFilter(watched, event);
+    }
+    // Ignored and not eaten, so that it goes on to what scrolls.
+    event->ignore();
+    return true;
+  }
+};
+
+QString quoted(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString translated(const char* text) { return QCoreApplication::translate("Help", text); }
+
+QStringList shownItems(const std::vector<std::string>& items) {
+  QStringList list;
+  std::transform(items.begin(), items.end(), std::back_inserter(list),
+                 [](const std::string& item) { return shown(item); });
+  return list;
+}
+
+// Items are taken over only when they changed: an open list stays open otherwise.
+void showItems(QComboBox* box, const std::vector<std::string>& items) {
+  const QStringList wanted = shownItems(items);
+  QStringList present;
+  for (int index = 0; index < box->count(); ++index) {
+    present.append(box->itemText(index));
+  }
+  if (present != wanted) {
+    box->clear();
+    box->addItems(wanted);
+  }
+}
+
+// While the control has this view.
+template <typename Widget, typename Show>
+void attach(platform::Control& control, Widget* widget, Show show) {
+  control.attach(show);
+  QObject::connect(widget, &QObject::destroyed, [&control] { control.detach(); });
+}
+
+}  // namespace
+
+QString helpOf(document::Key key) {
+  const document::KeyRow& row = document::rowOf(key);
+  QString help = translated(row.help.data());
+  help += QLatin1Char(' ');
+  help += row.defaultValue.empty()
+              ? translated("If unsure, leave it empty.")
+              : translated("If unsure, leave it at \"%1\".").arg(quoted(row.defaultValue));
+  help += QLatin1Char(' ');
+  help += row.written.empty() ? translated("Writes \"%1\".").arg(quoted(row.text).trimmed())
+                              : translated("Writes \"%1\", %2.")
+                                    .arg(quoted(row.text).trimmed(), translated(row.written.data()));
+  return help;
+}
+
+void describe(QWidget* widget, const platform::Control& control, const QString& help) {
+  widget->setObjectName(shown(control.name()));
+  widget->setToolTip(help);
+  widget->setWhatsThis(help);
+  widget->setAccessibleDescription(help);
+}
+
+void guardWheel(QWidget* widget) {
+  widget->setFocusPolicy(Qt::StrongFocus);
+  widget->installEventFilter(new WheelGuard(widget));
+}
+
+QPushButton* Controls::pushButton(platform::Button& control, const QString& text,
+                                  const QString& help) {
+  auto* const button = new QPushButton(text);
+  describe(button, control, help);
+  attach(control, button, [button, &control] { button->setEnabled(control.isEnabled()); });
+  QObject::connect(button, &QPushButton::clicked, [this, &control] {
+    edits_.endEditing();
+    control.sendAction();
+  });
+  return button;
+}
+
+template <typename ButtonWidget>
+ButtonWidget* Controls::checkable(platform::Button& control, const QString& text,
+                                  const QString& help) {
+  auto* const button = new ButtonWidget(text);
+  describe(button, control, help);
+  attach(control, button, [button, &control] {
+    const QSignalBlocker quiet(button);
+    button->setEnabled(control.isEnabled());
+    button->setChecked(control.isOn());
+  });
+  QObject::connect(button, &ButtonWidget::clicked, [this, &control](bool checked) {
+    edits_.endEditing();
+    control.edit([&] { control.setOn(checked); });
+  });
+  return button;
+}
+
+QCheckBox* Controls::checkBox(platform::Button& control, const QString& text,
+                              const QString& help) {
+  return checkable<QCheckBox>(control, text, help);
+}
+
+QRadioButton* Controls::radioButton(platform::Button& control, const QString& text,
+                                    const QString& help) {
+  return checkable<QRadioButton>(control, text, help);
+}
+
+QAction* Controls::menuEntry(platform::Button& control, const QString& text, QObject* parent) {
+  auto* const entry = new QAction(text, parent);
+  entry->setObjectName(shown(control.name()));
+  control.attach([entry, &control] {
+    entry->setEnabled(control.isEnabled());
+    if (entry->isCheckable()) {
+      entry->setChecked(control.isOn());
+    }
+  });
+  QObject::connect(entry, &QObject::destroyed, [&control] { control.detach(); });
+  QObject::connect(entry, &QAction::triggered, [this, &control] {
+    edits_.endEditing();
+    control.sendAction();
+  });
+  return entry;
+}
+
+QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help) {
+  auto* const field = new QLineEdit;
+  describe(field, control, help);
+  field->setMaxLength(std::numeric_limits<int>::max());
+  auto* const pending = new PendingEdit(field, edits_, [&control](const QString& text) {
+    control.edit([&] { control.setStringValue(stored(text)); });
+  });
+  attach(control, field, [field, pending, &control] {
+    field->setEnabled(control.isEnabled());
+    field->setReadOnly(!control.isEditable());
+    const QString text = shown(control.stringValue());
+    if (field->text() != text) {
+      field->setText(text);
+    }
+    pending->settle();
+  });
+  return field;
+}
+
+QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) {
+  auto* const box = new QComboBox;
+  describe(box, control, help);
+  guardWheel(box);
+  box->setEditable(true);
+  box->setInsertPolicy(QComboBox::NoInsert);
+  if (control.completes()) {
+    // Entries are offered below the field and never put into it unasked.
+    box->completer()->setCompletionMode(QCompleter::PopupCompletion);
+  } else {
+    box->setCompleter(nullptr);
+  }
+  const auto show = [box, &control] {
+    const QSignalBlocker quiet(box);
+    box->setEnabled(control.isEnabled());
+    showItems(box, control.items());
+    const QString text = shown(control.stringValue());
+    const auto selected = control.indexOfSelectedItem();
+    // The box looks for an entry with the text of the field when the focus leaves: it is to find
+    // that the right one is selected already.
+    box->setCurrentIndex(selected ? static_cast<int>(*selected) : box->findText(text));
+    box->setEditText(text);
+  };
+  auto* const pending =
+      new PendingEdit(box->lineEdit(), edits_, [show, &control](const QString& text) {
+        control.edit([&] { control.enterText(stored(text)); });
+        show();
+      });
+  attach(control, box, [show, pending] {
+    show();
+    pending->settle();
+  });
+  QObject::connect(box, &QComboBox::activated, [pending, &control](int index) {
+    pending->settle();
+    control.edit([&] { control.selectItem(static_cast<std::size_t>(index)); });
+  });
+  return box;
+}
+
+QComboBox* Controls::popUpButton(platform::PopUpButton& control, const QString& help) {
+  auto* const box = new QComboBox;
+  describe(box, control, help);
+  guardWheel(box);
+  attach(control, box, [box, &control] {
+    const QSignalBlocker quiet(box);
+    box->setEnabled(control.isEnabled());
+    showItems(box, control.items());
+    const auto selected = control.indexOfSelectedItem();
+    box->setCurrentIndex(selected ? static_cast<int>(*selected) : -1);
+  });
+  QObject::connect(box, &QComboBox::activated, [this, &control](int index) {
+    edits_.endEditing();
+    control.edit([&] { control.selectItem(static_cast<std::size_t>(index)); });
+  });
+  return box;
+}
+
+QWidget* Controls::stepper(platform::Stepper& control, platform::TextField& field,
+                           const QString& help) {
+  auto* const box = new StepperBox(control, field);
+  describe(box, control, help);
+  describe(box->field(), field, help);
+  guardWheel(box);
+  attach(control, box, [box] { box->showState(); });
+  attach(field, box, [box] { box->showState(); });
+  return box;
+}
+
+}  // namespace desktop

@@ -1,0 +1,65 @@
+#include "desktop/edits.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QFocusEvent>
+#include <utility>
+
+namespace desktop {
+
+void Edits::endEditing() {
+  std::erase_if(edits_, [](const QPointer<PendingEdit>& edit) { return edit.isNull(); });
+  const auto edits = edits_;
+  for (const QPointer<PendingEdit>& edit : edits) {
+    if (edit) {
+      edit->endEditing();
+    }
+  }
+}
+
+PendingEdit::PendingEdit(QLineEdit* field, Edits& edits,
+                         std::function<void(const QString&)> commit)
+    : QObject(field), field_(field), commit_(std::move(commit)), settled_(field->text()) {
+  edits.add(this);
+  field->installEventFilter(this);
+  connect(field, &QLineEdit::textEdited, this, [this](const QString& text) {
+    text_ = text;
+    typed_ = true;
+  });
+  connect(field, &QLineEdit::returnPressed, this, &PendingEdit::returnPressed);
+}
+
+void PendingEdit::settle() {
+  settled_ = field_->text();
+  typed_ = false;
+}
+
+void PendingEdit::endEditing() {
+  if (isPending()) {
+    const QString text = typed_ ? text_ : field_->text();
+    settle();
+    commit_(text);
+  }
+}
+
+void PendingEdit::returnPressed() {
+  // With an offered completion picked, the completer tells of it right after this.
+  const QCompleter* const completer = field_->completer();
+  const QAbstractItemView* const popup = completer != nullptr ? completer->popup() : nullptr;
+  if (popup == nullptr || !popup->isVisible() || !popup->currentIndex().isValid()) {
+    endEditing();
+  }
+}
+
+bool PendingEdit::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusOut) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    // Looking at another window or at a menu does not end an edit.
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+      endEditing();
+    }
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace desktop

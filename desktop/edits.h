@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <functional>
+#include <vector>
+
+namespace desktop {
+
+class PendingEdit;
+
+/// All text fields of the program in which something may have been typed that nobody knows of yet.
+class Edits {
+ public:
+  void add(PendingEdit* edit) { edits_.emplace_back(edit); }
+
+  /// Commits whatever has been typed.
+  void endEditing();
+
+ private:
+  std::vector<QPointer<PendingEdit>> edits_;
+};
+
+/// Tells what a person typed into a line edit: on Return, when the focus leaves, or on request, and
+/// only if there is something new. A program that sets the text on the person's behalf, as screen
+/// readers do, counts as well.
+class PendingEdit : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `commit` gets the text as it was typed.
+  PendingEdit(QLineEdit* field, Edits& edits, std::function<void(const QString&)> commit);
+
+  /// What the field holds now is what the state says.
+  void settle();
+
+  void endEditing();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  [[nodiscard]] bool isPending() const { return typed_ || field_->text() != settled_; }
+  void returnPressed();
+
+  QLineEdit* field_;
+  std::function<void(const QString&)> commit_;
+  QString settled_;
+  QString text_;  // as typed: a completion that was only looked at does not count
+  bool typed_ = false;
+};
+
+}  // namespace desktop

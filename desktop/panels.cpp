@@ -1,0 +1,107 @@
+#include "desktop/panels.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QLayout>
+#include <memory>
+#include <utility>
+
+#include "desktop/texts.h"
+
+namespace desktop {
+namespace {
+
+using platform::Location;
+
+std::vector<Location> locationsOf(const QFileDialog& dialog) {
+  std::vector<Location> locations;
+  for (const QString& file : dialog.selectedFiles()) {
+    locations.push_back(Location::fromPath(stored(file)));
+  }
+  return locations;
+}
+
+void setTypes(QFileDialog& dialog, const std::vector<std::string>& types) {
+  if (types.empty()) {
+    return;
+  }
+  QStringList patterns;
+  for (const std::string& type : types) {
+    patterns.append(QLatin1String("*.") + shown(type));
+  }
+  dialog.setNameFilter(QFileDialog::tr("Disk images") + QLatin1String(" (") +
+                       patterns.join(QLatin1Char(' ')) + QLatin1Char(')'));
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+}
+
+std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
+  auto dialog = std::make_unique<QFileDialog>(window, shown(title));
+  // Qt's own dialog matches endings without regard to case; those of some desktops do not.
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  return dialog;
+}
+
+std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPanel& panel) {
+  auto dialog = makeDialog(window, panel.title);
+  dialog->setAcceptMode(QFileDialog::AcceptOpen);
+  if (panel.canChooseDirectories && !panel.canChooseFiles) {
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+  } else {
+    dialog->setFileMode(panel.allowsMultipleSelection ? QFileDialog::ExistingFiles
+                                                      : QFileDialog::ExistingFile);
+  }
+  dialog->setOption(QFileDialog::ReadOnly, !panel.canCreateDirectories);
+  if (panel.showsHiddenFiles) {
+    dialog->setFilter(dialog->filter() | QDir::Hidden);
+  }
+  setTypes(*dialog, panel.allowedFileTypes);
+  if (!panel.directory.empty()) {
+    dialog->setDirectory(shown(panel.directory));
+  }
+  return dialog;
+}
+
+// Shows a dialog that tells the completion once and then goes away by itself.
+void begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
+           platform::Panels::Chosen completion) {
+  QFileDialog* const dialog = owned.release();
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowModality(modality);
+  QObject::connect(dialog, &QDialog::finished,
+                   [dialog, completion = std::move(completion)](int result) {
+                     completion(result == QDialog::Accepted ? locationsOf(*dialog)
+                                                            : std::vector<Location>());
+                   });
+  dialog->show();
+}
+
+}  // namespace
+
+std::vector<Location> Panels::runModal(const platform::OpenPanel& panel) {
+  const auto dialog = makeDialog(window_, panel);
+  return dialog->exec() == QDialog::Accepted ? locationsOf(*dialog) : std::vector<Location>();
+}
+
+void Panels::begin(const platform::OpenPanel& panel, Chosen completion) {
+  desktop::begin(makeDialog(window_, panel), Qt::NonModal, std::move(completion));
+}
+
+void Panels::beginSheet(const platform::OpenPanel& panel, Chosen completion) {
+  desktop::begin(makeDialog(window_, panel), Qt::WindowModal, std::move(completion));
+}
+
+void Panels::beginSheet(const platform::SavePanel& panel, Chosen completion) {
+  auto dialog = makeDialog(window_, panel.title);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setFileMode(QFileDialog::AnyFile);
+  setTypes(*dialog, panel.allowedFileTypes);
+  dialog->setDefaultSuffix(shown(panel.allowedFileTypes.front()));
+  dialog->selectFile(shown(panel.nameFieldStringValue));
+  auto* const message = new QLabel(shown(panel.message));
+  message->setObjectName(QLatin1String("bitView"));
+  dialog->layout()->addWidget(message);
+  desktop::begin(std::move(dialog), Qt::WindowModal, std::move(completion));
+}
+
+}  // namespace desktop

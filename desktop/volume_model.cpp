@@ -1,0 +1,119 @@
+#include "desktop/volume_model.h"
+
+#include <QMimeData>
+#include <utility>
+
+#include "desktop/texts.h"
+
+namespace desktop {
+
+using platform::DragOperation;
+using platform::DropOperation;
+
+VolumeModel::VolumeModel(platform::TableView& table, QString imageFolder, QObject* parent)
+    : QAbstractTableModel(parent), table_(table), imageFolder_(std::move(imageFolder)) {}
+
+void VolumeModel::reload() {
+  beginResetModel();
+  cells_.clear();
+  rows_ = static_cast<int>(table_.numberOfRows());
+  endResetModel();
+}
+
+int VolumeModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+
+int VolumeModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 3; }
+
+const platform::TableCell* VolumeModel::cell(const QModelIndex& index) const {
+  auto& known = cells_[index.row()].at(static_cast<std::size_t>(index.column()));
+  if (!known) {
+    known = table_.dataSource->viewFor(static_cast<std::size_t>(index.column()),
+                                       static_cast<std::size_t>(index.row()));
+  }
+  return known ? &*known : nullptr;
+}
+
+QIcon VolumeModel::image(const std::string& name) const {
+  if (icon_.isNull()) {
+    icon_ = QIcon(imageFolder_ + QLatin1Char('/') + shown(name));
+  }
+  return icon_;
+}
+
+QVariant VolumeModel::data(const QModelIndex& index, int role) const {
+  const bool shownRole = role == Qt::DisplayRole || role == Qt::ToolTipRole ||
+                         role == Qt::AccessibleTextRole || role == Qt::DecorationRole;
+  if (role == Qt::TextAlignmentRole && index.column() == 1) {
+    return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  const platform::TableCell* const shownCell = shownRole ? cell(index) : nullptr;
+  if (shownCell == nullptr) {
+    return {};
+  }
+  if (role == Qt::DecorationRole) {
+    return shownCell->image.empty() ? QVariant() : QVariant(image(shownCell->image));
+  }
+  return shown(shownCell->text);
+}
+
+QVariant VolumeModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (role == Qt::DisplayRole && orientation == Qt::Horizontal) {
+    return section == 0 ? tr("Disk image") : section == 1 ? tr("Size") : tr("Kind");
+  }
+  return QAbstractTableModel::headerData(section, orientation, role);
+}
+
+Qt::ItemFlags VolumeModel::flags(const QModelIndex& index) const {
+  // Rows are no targets of a drop, only the gaps between them; those belong to the root.
+  return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled |
+                               Qt::ItemNeverHasChildren
+                         : Qt::ItemIsDropEnabled;
+}
+
+QStringList VolumeModel::mimeTypes() const {
+  QStringList types;
+  for (const std::string& type : table_.draggedTypes()) {
+    types.append(shown(type));
+  }
+  return types;
+}
+
+// One piece of data stands for all rows, a line for each.
+QMimeData* VolumeModel::mimeData(const QModelIndexList& indexes) const {
+  QByteArray rows;
+  for (const QModelIndex& index : indexes) {
+    if (index.column() == 0) {
+      rows += QByteArray::fromStdString(
+          table_.dataSource->pasteboardWriterForRow(static_cast<std::size_t>(index.row())));
+      rows += '\n';
+    }
+  }
+  auto* const data = new QMimeData;
+  data->setData(mimeTypes().constFirst(), rows);
+  return data;
+}
+
+bool VolumeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int /*row*/,
+                                  int /*column*/, const QModelIndex& parent) const {
+  // Below the last row there is no item and no row number: that is above the end.
+  const bool between = !parent.isValid();
+  return action == Qt::MoveAction && data->hasFormat(mimeTypes().constFirst()) &&
+         table_.dataSource->validateDrop(between ? DropOperation::above : DropOperation::on) ==
+             DragOperation::move;
+}
+
+bool VolumeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                               const QModelIndex& parent) {
+  if (!canDropMimeData(data, action, row, column, parent)) {
+    return false;
+  }
+  std::vector<std::string> items;
+  for (const QByteArray& item : data->data(mimeTypes().constFirst()).split('\n')) {
+    if (!item.isEmpty()) {
+      items.push_back(item.toStdString());
+    }
+  }
+  return table_.dataSource->acceptDrop(items, static_cast<std::size_t>(row < 0 ? rows_ : row));
+}
+
+}  // namespace desktop

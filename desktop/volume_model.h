@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QIcon>
+#include <array>
+#include <optional>
+#include <unordered_map>
+
+#include "platform/table_view.h"
+
+namespace desktop {
+
+/// The rows of a table of the core for Qt's table view. A cell is asked for when it first becomes
+/// visible and kept until the table is reloaded.
+class VolumeModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  /// `imageFolder` holds the pictures that cells name.
+  VolumeModel(platform::TableView& table, QString imageFolder, QObject* parent);
+
+  void reload();
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                    int role) const override;
+  [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+  [[nodiscard]] Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+  [[nodiscard]] QStringList mimeTypes() const override;
+  [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
+  [[nodiscard]] bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row,
+                                     int column, const QModelIndex& parent) const override;
+  bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                    const QModelIndex& parent) override;
+
+ private:
+  using Row = std::array<std::optional<platform::TableCell>, 3>;
+
+  [[nodiscard]] const platform::TableCell* cell(const QModelIndex& index) const;
+  [[nodiscard]] QIcon image(const std::string& name) const;
+
+  platform::TableView& table_;
+  QString imageFolder_;
+  int rows_ = 0;
+  mutable std::unordered_map<int, Row> cells_;
+  mutable QIcon icon_;
+};
+
+}  // namespace desktop

@@ -1,0 +1,141 @@
+#include "desktop/volume_view.h"
+
+#include <QDragMoveEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <algorithm>
+#include <set>
+
+#include "desktop/texts.h"
+
+namespace desktop {
+
+VolumeView::VolumeView(volumes::VolumeTable& volumes, const QString& imageFolder)
+    : volumes_(volumes), model_(volumes.tableView, imageFolder, this) {
+  setObjectName(shown(volumes.tableView.name()));
+  setModel(&model_);
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setDragDropMode(DragDrop);
+  setDefaultDropAction(Qt::MoveAction);
+  setDragDropOverwriteMode(false);
+  setTextElideMode(Qt::ElideMiddle);
+  setShowGrid(false);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  setAlternatingRowColors(true);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  QHeaderView* const header = horizontalHeader();
+  header->setHighlightSections(false);
+  header->setResizeContentsPrecision(0);  // the visible rows only
+  header->setSectionResizeMode(QHeaderView::ResizeToContents);
+  header->setSectionResizeMode(0, QHeaderView::Stretch);
+  header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+  volumes.tableView.attach([this] { showState(); });
+  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &VolumeView::rememberSelection);
+}
+
+VolumeView::~VolumeView() { volumes_.tableView.detach(); }
+
+void VolumeView::showState() {
+  const QScopedValueRollback<bool> guard(showing_, true);
+  platform::TableView& table = volumes_.tableView;
+  if (revision_ != table.revision()) {
+    revision_ = table.revision();
+    const int current = currentIndex().row();
+    model_.reload();
+    const auto selected = table.selectedRow();
+    const int row = selected ? static_cast<int>(*selected) : std::min(current, model_.rowCount() - 1);
+    selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
+  }
+  QItemSelection selection;
+  for (const std::size_t row : table.selectedRows()) {
+    const QModelIndex index = model_.index(static_cast<int>(row), 0);
+    selection.select(index, index);
+  }
+  selectionModel()->select(selection,
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  viewport()->update();
+}
+
+// Keeps the order in which rows were selected: the one selected last is the table's selected row.
+void VolumeView::rememberSelection(const QItemSelection& selected,
+                                   const QItemSelection& deselected) {
+  if (showing_) {
+    return;
+  }
+  const auto rowsOf = [](const QItemSelection& part) {
+    std::set<std::size_t> rows;
+    for (const QModelIndex& index : part.indexes()) {
+      rows.insert(static_cast<std::size_t>(index.row()));
+    }
+    return rows;
+  };
+  std::vector<std::size_t> rows = volumes_.tableView.selectedRows();
+  const auto gone = rowsOf(deselected);
+  std::erase_if(rows, [&](std::size_t row) { return gone.contains(row); });
+  for (const std::size_t row : rowsOf(selected)) {
+    rows.push_back(row);
+  }
+  const auto current = static_cast<std::size_t>(currentIndex().row());
+  const auto last = std::find(rows.begin(), rows.end(), current);
+  if (last != rows.end()) {
+    std::rotate(last, last + 1, rows.end());
+  }
+  volumes_.tableView.edit([&] { volumes_.tableView.selectRows(std::move(rows)); });
+}
+
+void VolumeView::keyPressEvent(QKeyEvent* event) {
+  const bool alt = event->modifiers() == Qt::AltModifier;
+  const bool plain = event->modifiers() == Qt::NoModifier;
+  if (alt && event->key() == Qt::Key_Up) {
+    volumes_.moveSelectionUp();
+  } else if (alt && event->key() == Qt::Key_Down) {
+    volumes_.moveSelectionDown();
+  } else if (plain && event->key() == Qt::Key_Delete) {
+    volumes_.removeVol.sendAction();
+  } else if (plain && event->key() == Qt::Key_Insert) {
+    volumes_.browseFile.sendAction();
+  } else {
+    QTableView::keyPressEvent(event);
+  }
+}
+
+void VolumeView::dragMoveEvent(QDragMoveEvent* event) {
+  hovered_ = indexAt(event->position().toPoint());
+  QTableView::dragMoveEvent(event);
+}
+
+void VolumeView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (model_.rowCount() == 0) {
+    paintHint();
+  } else if (state() == DraggingState) {
+    paintDropLine();
+  }
+}
+
+void VolumeView::paintHint() {
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::PlaceholderText));
+  painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
+                   tr("No disk images yet. Press Insert or the button \"Add…\" to add one."));
+}
+
+// Across the whole width, since whole rows move.
+void VolumeView::paintDropLine() {
+  if (!hovered_.isValid() || dropIndicatorPosition() == OnViewport) {
+    return;
+  }
+  const QRect row = visualRect(hovered_);
+  const int y = dropIndicatorPosition() == BelowItem ? row.bottom() : row.top();
+  QPainter painter(viewport());
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+  painter.drawLine(0, y, viewport()->width(), y);
+}
+
+}  // namespace desktop

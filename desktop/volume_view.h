@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QTableView>
+
+#include "desktop/volume_model.h"
+#include "volumes/volume_table.h"
+
+namespace desktop {
+
+/// The table of disk images: shows the core's table and passes on selection, drags and keys.
+class VolumeView : public QTableView {
+  Q_OBJECT
+
+ public:
+  VolumeView(volumes::VolumeTable& volumes, const QString& imageFolder);
+  ~VolumeView() override;
+  VolumeView(const VolumeView&) = delete;
+  VolumeView& operator=(const VolumeView&) = delete;
+
+ protected:
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void showState();
+  void rememberSelection(const QItemSelection& selected, const QItemSelection& deselected);
+  void paintHint();
+  void paintDropLine();
+
+  volumes::VolumeTable& volumes_;
+  VolumeModel model_;
+  std::size_t revision_ = 0;
+  QModelIndex hovered_;  // below a drag
+  bool showing_ = false;
+};
+
+}  // namespace desktop

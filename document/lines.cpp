@@ -1,0 +1,38 @@
+#include "document/lines.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace document {
+
+// Searches the text as a whole: that is many times faster than line by line, and a part without a
+// line feed is found inside one line only.
+std::optional<std::string_view> Lines::nextContaining(std::string_view part,
+                                                      std::size_t from) const {
+  const std::string_view text = text_;
+  const void* found = ::memmem(text.data() + from, text.size() - from, part.data(), part.size());
+  if (found == nullptr) {
+    return std::nullopt;
+  }
+  const auto at = static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
+  const std::size_t before = text.rfind('\n', at);
+  const std::size_t start = before == text.npos ? 0 : before + 1;
+  const std::size_t end = std::min(text.find('\n', at), text.size());
+  return text.substr(start, end - start);
+}
+
+std::optional<std::string_view> Lines::firstContaining(std::string_view part) const {
+  return nextContaining(part, 0);
+}
+
+std::vector<std::string_view> Lines::allContaining(std::string_view part) const {
+  std::vector<std::string_view> lines;
+  std::size_t from = 0;
+  while (const auto line = nextContaining(part, from)) {
+    lines.push_back(*line);
+    from = static_cast<std::size_t>(line->data() - text_.data()) + line->size();
+  }
+  return lines;
+}
+
+}  // namespace document

@@ -1,0 +1,144 @@
+#include "document/preferences.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace document {
+namespace {
+
+std::string joined(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) {
+    text.append(line).append("\n");
+  }
+  return text;
+}
+
+}  // namespace
+
+Preferences::Preferences(std::string homeDirectory, platform::Output& output)
+    : dir(std::move(homeDirectory)), output_(output) {}
+
+std::string Preferences::line(Key key, std::string_view value) {
+  return std::string(prefs[indexOf(key)]).append(value);
+}
+
+void Preferences::load() {
+  output_.print(dir);
+  output_.print(fileName);
+  prefsURL = platform::Location::fromPath(dir + "/" + fileName);
+  prefsURL2 = platform::Location::fromPath(dir + "/.quillon_prefs_debug");
+  const bool noprefsfile = !platform::fileExists(prefsURL->path());
+  if (noprefsfile) {
+    output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ");
+  } else {
+    readFile();
+  }
+  output_.print(prefsPath);
+  if (noprefsfile) {
+    createFile();
+  }
+}
+
+void Preferences::readFile() {
+  prefsPath = prefsURL->path();
+  output_.print(prefsURL->text());
+  output_.print(prefsPath);
+  std::error_code error;
+  if (auto text = platform::readTextFile(prefsPath, error)) {
+    settings = Lines(*std::move(text));
+  } else {
+    output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ", error.message());
+  }
+}
+
+void Preferences::createFile() {
+  preferencesDefault.clear();
+  for (const KeyRow& row : keyTable) {
+    newNoPrefs[indexOf(row.key)] = line(row.key, row.defaultValue);
+    preferencesDefault.push_back(newNoPrefs[indexOf(row.key)]);
+  }
+  output_.print(platform::listText(preferencesDefault));
+  output_.print("newNoPrefs:\n ", platform::optionalText(newNoPrefs[2]), "\n");
+  if (!platform::writeFile(prefsURL->path(), joined(preferencesDefault))) {
+    for (const std::string& written : preferencesDefault) {
+      output_.print(std::to_string(written.size()));
+    }
+  }
+}
+
+void Preferences::lookUp(Key key, std::string_view foundLabel) {
+  const std::string_view match = prefs[indexOf(key)];
+  std::string value(defaults[indexOf(key)]);
+  if (const auto found = settings.firstContaining(match)) {
+    output_.print(foundLabel, *found);
+    // A key text is ASCII: as many characters as bytes.
+    const std::string_view rest = platform::dropCharacters(*found, match.size());
+    if (!rest.empty()) {
+      value = rest;
+    }
+  } else {
+    output_.print("No match for: ", match);
+  }
+  newPrefs[indexOf(key)] = line(key, value);
+  prefSet[indexOf(key)] = std::move(value);
+}
+
+void Preferences::compose(const std::vector<std::string>& disks) {
+  preferences.clear();
+  preferences.reserve(disks.size() + keyCount);
+  std::transform(disks.begin(), disks.end(), std::back_inserter(preferences),
+                 [](const std::string& path) { return "disk " + path; });
+  for (const KeyRow& row : keyTable) {
+    newPrefs[indexOf(row.key)] = line(row.key, value(row.key));
+    preferences.push_back(newPrefs[indexOf(row.key)]);
+  }
+}
+
+std::string Preferences::composed(const std::vector<std::string>& disks) {
+  compose(disks);
+  return joined(preferences);
+}
+
+bool Preferences::save(const std::vector<std::string>& disks, std::string_view finalMessage) {
+  for (const std::string& path : disks) {
+    output_.print(path);
+  }
+  compose(disks);
+  output_.print("pre write prefs test");
+  output_.print("newFileOutput test: ", platform::optionalText(prefsURL2));
+  const std::string text = joined(preferences);
+  output_.print(text);
+  const bool saved = prefsURL && prefsURL->isFile() &&
+                     !platform::writeFile(platform::withExistingFolder(prefsURL->path()), text);
+  if (!saved) {
+    output_.print("couldn't save prefs file");
+  }
+  output_.print(finalMessage);
+  output_.print(platform::listText(preferences));
+  return saved;
+}
+
+void Preferences::setLocation(std::string_view text) {
+  if (!prefsURL || prefsURL->path() != text) {
+    prefsURL = platform::Location::fromText(text);
+  }
+}
+
+void Preferences::copyToLocation() const {
+  const platform::Location home = platform::Location::fromPath(dir + "/" + fileName);
+  output_.print(home.text());
+  auto error = std::make_error_code(std::errc::invalid_argument);
+  if (prefsURL && prefsURL->isFile()) {
+    error = platform::copyFile(home.path(), prefsURL->path());
+  }
+  if (error) {
+    output_.print("Problem: ", error.message());
+  }
+}
+
+}  // namespace document

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/key_table.h"
+#include "document/lines.h"
+#include "platform/location.h"
+#include "platform/output.h"
+
+namespace document {
+
+/// The emulator's preferences file: where it is, what it held at start-up, and the value of each
+/// setting that the next save writes. Knows no control and no volume.
+class Preferences {
+ public:
+  /// `homeDirectory` is a path without a last "/".
+  Preferences(std::string homeDirectory, platform::Output& output);
+  Preferences(const Preferences&) = delete;
+  Preferences& operator=(const Preferences&) = delete;
+
+  /// Reads the file in the home directory, or writes one with the defaults when there is none.
+  void load();
+
+  /// Finds the value of a key in the lines read, its default else, and makes it the current one.
+  /// `foundLabel` begins the diagnostic line about a line that was found.
+  void lookUp(Key key, std::string_view foundLabel = "results: ");
+
+  /// The current value of a key, as the next save writes it.
+  [[nodiscard]] const std::string& value(Key key) const { return prefSet[indexOf(key)]; }
+  void setValue(Key key, std::string value) { prefSet[indexOf(key)] = std::move(value); }
+
+  /// The line of a key with that value.
+  [[nodiscard]] static std::string line(Key key, std::string_view value);
+
+  /// Rewrites the file as a whole: a line for each disk, then one for each key. A failure is
+  /// printed; returns whether there was none. `finalMessage` ends the diagnostics.
+  bool save(const std::vector<std::string>& disks, std::string_view finalMessage);
+
+  /// What a save would write.
+  [[nodiscard]] std::string composed(const std::vector<std::string>& disks);
+
+  /// Makes later saves go to the place that a location text names.
+  void setLocation(std::string_view text);
+
+  /// Copies the file in the home directory to the place that saves go to.
+  void copyToLocation() const;
+
+  std::string dir;
+  std::string fileName = ".quillon_prefs";
+  std::optional<platform::Location> prefsURL;
+  std::optional<platform::Location> prefsURL2;
+  std::string prefsPath;  // empty until the file was found
+
+  Lines settings;                                // as read at start-up
+  std::array<std::string, keyCount> prefSet;     // the current values
+  std::array<std::string, keyCount> newPrefs;    // the composed lines
+  std::array<std::string, keyCount> newNoPrefs;  // the default lines, after a first run
+  std::vector<std::string> preferencesDefault;   // the lines of the first file
+  std::vector<std::string> preferences;          // the lines of the file last written
+
+ private:
+  void readFile();
+  void createFile();
+  void compose(const std::vector<std::string>& disks);
+
+  platform::Output& output_;
+};
+
+}  // namespace document

@@ -1,0 +1,154 @@
+#include "editor/display.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+
+#include "platform/text.h"
+
+namespace editor {
+namespace {
+
+// The largest size there is: a word for people, a number in the file.
+constexpr std::string_view maximumWord = "Maximum";
+constexpr std::string_view maximumValue = "0";
+constexpr std::size_t maximumIndex = 4;
+
+struct Rate {
+  std::string_view title;
+  std::int64_t frameskip;
+};
+
+constexpr std::array<Rate, 7> rates = {{{"Dynamic", 0},
+                                        {"60 Hz", 1},
+                                        {"30 Hz", 2},
+                                        {"15 Hz", 4},
+                                        {"10 Hz", 6},
+                                        {"7.5 Hz", 8},
+                                        {"5 Hz", 12}}};
+
+std::vector<std::string> rateTitles() {
+  std::vector<std::string> titles;
+  for (const Rate& rate : rates) {
+    titles.emplace_back(rate.title);
+  }
+  return titles;
+}
+
+}  // namespace
+
+ScreenSetting::ScreenSetting(ControlGroup& group)
+    : Setting(group, Key::screen,
+              {.heading = Announcement::Heading::keyText, .form = Announcement::Form::matches}),
+      screenType(outletOf(Key::screen)),
+      screenWidth("screenWidth"),
+      screenHeight("screenHeight"),
+      screenhoriz_{"1024", "800", "640", "512", std::string(maximumWord)},
+      screenvert_{"768", "600", "480", "384", std::string(maximumWord)} {
+  screenType.addItems({"Window", "Full screen"});
+  screenType.action = [this] { videoType(); };
+  screenWidth.action = [this] { winWidth(); };
+  screenHeight.action = [this] { winHeight(); };
+}
+
+void ScreenSetting::fill() {
+  split();
+  for (const std::string& part : screensep_) {
+    print("Screen: ", part);
+  }
+  if (screensep_[type] == "win") {
+    screenType.selectItem(0);
+  } else {
+    screensep_[type] = "dga";
+    screenType.selectItem(1);
+  }
+  fillSize(width, screenWidth, screenhoriz_);
+  fillSize(height, screenHeight, screenvert_);
+}
+
+// Parts that the value lacks come from the default; more than three are dropped.
+void ScreenSetting::split() {
+  for (std::string_view rest : {row().defaultValue, std::string_view(value())}) {
+    for (std::string& part : screensep_) {
+      const std::size_t end = rest.find('/');
+      part = rest.substr(0, end);
+      if (end == rest.npos) {
+        break;
+      }
+      rest.remove_prefix(end + 1);
+    }
+  }
+}
+
+void ScreenSetting::fillSize(Part part, platform::ComboBox& box,
+                             std::vector<std::string>& sizes) {
+  const std::string& size = screensep_[part];
+  auto found = std::find(sizes.begin(), sizes.end(), size);
+  if (found == sizes.end() && size == maximumValue) {
+    found = sizes.begin() + maximumIndex;
+  } else if (found == sizes.end()) {
+    found = sizes.insert(found, size);
+  }
+  box.addItems(sizes);
+  box.selectItem(static_cast<std::size_t>(found - sizes.begin()));
+}
+
+void ScreenSetting::videoType() {
+  const std::size_t index = screenType.indexOfSelectedItem().value_or(0);
+  print(std::to_string(index));
+  screensep_[type] = index == 0 ? "win" : "dga";
+  print(screensep_[type]);
+}
+
+void ScreenSetting::editSize(Part part, platform::ComboBox& box,
+                             std::vector<std::string>& sizes) {
+  const auto index = box.indexOfSelectedItem();
+  if (!index) {
+    screensep_[part] = box.stringValue();
+    sizes.push_back(screensep_[part]);
+    box.addItem(screensep_[part]);
+  } else {
+    screensep_[part] = *index == maximumIndex ? std::string(maximumValue) : sizes[*index];
+  }
+  print(screensep_[part]);
+}
+
+void ScreenSetting::join() {
+  for (std::string& part : screensep_) {
+    print(part);
+    if (part == maximumWord) {
+      part = maximumValue;
+      print(part);
+    }
+  }
+  setValue(screensep_[type] + "/" + screensep_[width] + "/" + screensep_[height]);
+}
+
+RefreshRateSetting::RefreshRateSetting(ControlGroup& group)
+    : PopUpSetting(group, Key::frameskip, rateTitles(),
+                   {.heading = Announcement::Heading::keyText}) {}
+
+void RefreshRateSetting::fill() {
+  const auto frameskip = platform::parseInt64(value());
+  const auto* const rate = std::find_if(rates.begin(), rates.end(), [&](const Rate& known) {
+    return known.frameskip == frameskip;
+  });
+  const auto position = static_cast<std::size_t>(rate - rates.begin());
+  if (rate == rates.end()) {
+    fileValue_ = value();
+    button.addItems({fileValue_ + " (from the file)"});
+  }
+  const std::string shownPosition = rate == rates.end() ? "nil" : std::to_string(position);
+  print("NEWFRESH!!  ", shownPosition);
+  print("REFRESH!!  ", shownPosition);
+  print("ACTUAL!!!  ", frameskip ? std::to_string(*frameskip) : value());
+  button.selectItem(position);
+}
+
+void RefreshRateSetting::refreshRate(std::size_t index) {
+  print(std::to_string(index));
+  setValue(index < rates.size() ? std::to_string(rates[index].frameskip) : fileValue_);
+  print(value());
+}
+
+}  // namespace editor

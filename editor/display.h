@@ -1,0 +1,66 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "editor/shapes.h"
+
+namespace editor {
+
+/// The screen: one value of three parts (type, width, height), each with a control of its own. The
+/// parts are edited apart and joined before a save.
+class ScreenSetting : public Setting {
+ public:
+  explicit ScreenSetting(ControlGroup& group);
+
+  platform::PopUpButton screenType;
+  platform::ComboBox screenWidth;
+  platform::ComboBox screenHeight;
+
+  /// Makes the parts the value of the setting.
+  void join();
+
+ protected:
+  void fill() override;
+
+ private:
+  enum Part : std::size_t { type, width, height };
+
+  void split();
+  void videoType();
+  void winWidth() { editSize(width, screenWidth, screenhoriz_); }
+  void winHeight() { editSize(height, screenHeight, screenvert_); }
+
+  void fillSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
+  void editSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
+
+  std::array<std::string, 3> screensep_;
+  std::vector<std::string> screenhoriz_;
+  std::vector<std::string> screenvert_;
+};
+
+/// How often the screen is drawn.
+class RefreshRateSetting : public PopUpSetting {
+ public:
+  explicit RefreshRateSetting(ControlGroup& group);
+
+ protected:
+  void fill() override;
+  void chosen(std::size_t index) override { refreshRate(index); }
+
+ private:
+  void refreshRate(std::size_t index);
+
+  std::string fileValue_;  // behind the last entry, when the file holds none of the known rates
+};
+
+class DisplayGroup : public ControlGroup {
+ public:
+  using ControlGroup::ControlGroup;
+
+  ScreenSetting screen{*this};
+  RefreshRateSetting refreshRate{*this};
+};
+
+}  // namespace editor

@@ -1,0 +1,30 @@
+#include "editor/jit.h"
+
+#include <algorithm>
+
+namespace editor {
+
+JitCacheSetting::JitCacheSetting(ControlGroup& group)
+    : ComboBoxSetting(group, Key::jitcachesize, {.heading = Announcement::Heading::keyText}),
+      jitCacheSizes_{"2048", "4096", "8192", "16384"} {}
+
+void JitCacheSetting::fill() {
+  if (std::find(jitCacheSizes_.begin(), jitCacheSizes_.end(), value()) == jitCacheSizes_.end()) {
+    jitCacheSizes_.push_back(value());
+  }
+  box.addItems(jitCacheSizes_);
+  select(value());
+}
+
+void JitCacheSetting::jitCachSize() {
+  ComboBoxSetting::edited();
+  print(value());
+}
+
+void JitCacheSetting::typed(const std::string& text) {
+  setValue(text);
+  jitCacheSizes_.push_back(text);
+  box.addItem(text);
+}
+
+}  // namespace editor

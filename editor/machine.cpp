@@ -1,0 +1,184 @@
+#include "editor/machine.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <optional>
+
+#include "platform/byte_count.h"
+#include "platform/text.h"
+
+namespace editor {
+namespace {
+
+constexpr std::int64_t bytesPerMegabyte = 1048576;
+
+struct Processor {
+  std::string_view cpu;
+  std::string_view fpu;
+};
+
+// The values behind the entries of the processor button.
+constexpr std::array<Processor, 5> processors = {
+    {{"2", "false"}, {"2", "true"}, {"3", "false"}, {"3", "true"}, {"4", "true"}}};
+
+std::string memoryText(std::int64_t bytes) {
+  constexpr platform::ByteCountFormatter formatter{
+      platform::ByteCountFormatter::CountStyle::memory, false};
+  return formatter.stringFromByteCount(bytes);
+}
+
+std::optional<std::int64_t> bytesOf(std::string_view megabytes) {
+  const auto count = platform::parseInt64(megabytes);
+  if (!count || *count < 1 || *count > std::numeric_limits<std::int64_t>::max() / bytesPerMegabyte) {
+    return std::nullopt;
+  }
+  return *count * bytesPerMegabyte;
+}
+
+}  // namespace
+
+void RomSetting::lookUp() {
+  const std::string_view key = row().text;
+  print("Searching for match for: ", key);
+  const auto matches = group().preferences.settings.allContaining(key);
+  print("All matches for -rom- : ", platform::listText(matches));
+
+  std::string found(row().defaultValue);
+  std::string line = document::Preferences::line(Key::rom, found);
+  const bool isCdromLine = !matches.empty() && matches.front().find("nocdrom") != std::string::npos;
+  if (isCdromLine) {
+    print("no entry for rom, just nocdrom");
+  }
+  if (matches.empty() || isCdromLine) {
+    print(key, " setting has value: ", line);
+  } else {
+    print("Setting for rom is: -", matches.front(), "-");
+    const std::string_view rest = platform::dropCharacters(matches.front(), key.size());
+    if (rest.empty()) {
+      print("Setting has no value, newprefs: ", line);
+    } else {
+      found = rest;
+      line = matches.front();
+      print("Setting has value: ", line);
+    }
+  }
+  setValue(found);
+  group().preferences.newPrefs[indexOf(Key::rom)] = line;
+  print("Rom Final Setting: ", line);
+}
+
+BootDriveSetting::BootDriveSetting(ControlGroup& group)
+    : PopUpSetting(group, Key::bootdrive, {"Any drive", "Drive 1"},
+                   {.heading = Announcement::Heading::named}) {}
+
+void BootDriveSetting::fill() {
+  const bool any = value() == "0";
+  button.selectItem(any ? 0 : 1);
+  setValue(any ? "0" : "1");
+}
+
+void BootDriveSetting::startDevice(std::size_t index) {
+  print(std::to_string(index));
+  setValue(index == 0 ? "0" : "1");
+}
+
+RamSizeSetting::RamSizeSetting(ControlGroup& group)
+    : ComboBoxSetting(group, Key::ramsize, {.heading = Announcement::Heading::named}),
+      ramSizes_{"1024", "512", "256", "128", "64", "32", "16", "8", "4", "2"} {
+  box.setCompletes(true);
+}
+
+void RamSizeSetting::fill() {
+  if (const auto bytes = platform::parseInt64(value())) {
+    const std::string text = memoryText(*bytes);
+    if (std::find(ramSizes_.begin(), ramSizes_.end(), text) == ramSizes_.end()) {
+      ramSizes_.push_back(text);
+    }
+    if (!platform::parseInt64(text)) {
+      fileSizes_[text] = value();
+    }
+  }
+  box.addItems(ramSizes_);
+  showStoredSize();
+}
+
+void RamSizeSetting::showStoredSize() {
+  const auto bytes = platform::parseInt64(value());
+  const std::string text = bytes ? memoryText(*bytes) : value();
+  if (!bytes || !select(text)) {
+    box.enterText(text);
+  }
+}
+
+void RamSizeSetting::ramSize() {
+  ComboBoxSetting::edited();
+  print(std::to_string(bytesPerMegabyte));
+  const auto shown = platform::parseInt64(box.stringValue());
+  print(shown ? "Optional(" + std::to_string(*shown) + ")" : "nil");
+  print(value());
+}
+
+void RamSizeSetting::typed(const std::string& text) {
+  const auto bytes = bytesOf(text);
+  if (!bytes) {
+    showStoredSize();
+    return;
+  }
+  setValue(std::to_string(*bytes));
+  print(value());
+  ramSizes_.push_back(text);
+  box.addItem(text);
+}
+
+void RamSizeSetting::chosen(std::size_t index) {
+  const std::string& entry = ramSizes_[index];
+  if (const auto megabytes = platform::parseInt64(entry)) {
+    setValue(std::to_string(*megabytes * bytesPerMegabyte));
+  } else if (const auto known = fileSizes_.find(entry); known != fileSizes_.end()) {
+    setValue(known->second);
+  }
+}
+
+ModelSetting::ModelSetting(ControlGroup& group)
+    : PopUpSetting(group, Key::modelid, {"Macintosh IIci", "Quadra 900"}) {}
+
+void ModelSetting::fill() { button.selectItem(value() == "14" ? 1 : 0); }
+
+void ModelSetting::modelID(std::size_t index) {
+  print(std::to_string(index));
+  if (index <= 1) {
+    setValue(index == 0 ? "5" : "14");
+  }
+}
+
+ProcessorSetting::ProcessorSetting(ControlGroup& group)
+    : PopUpSetting(group, Key::fpu,
+                   {"68020", "68020 with FPU", "68030", "68030 with FPU", "68040"}) {}
+
+void ProcessorSetting::fill() {
+  const std::string& cpu = group().preferences.value(Key::cpu);
+  if (value() != "false" && value() != "true") {
+    button.selectItem(0);
+    return;
+  }
+  // A pair that stands in no row leaves the button as it is.
+  const auto found =
+      std::find_if(processors.begin(), processors.end(), [&](const Processor& processor) {
+        return processor.cpu == cpu && processor.fpu == value();
+      });
+  if (found != processors.end()) {
+    button.selectItem(static_cast<std::size_t>(found - processors.begin()));
+  }
+}
+
+void ProcessorSetting::cpuType(std::size_t index) {
+  print(std::to_string(index));
+  group().preferences.setValue(Key::cpu, std::string(processors[index].cpu));
+  setValue(std::string(processors[index].fpu));
+  print(processors[index].cpu);
+  print(processors[index].fpu);
+}
+
+}  // namespace editor

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "editor/shapes.h"
+
+namespace editor {
+
+/// The ROM file. Its key text is also part of every "nocdrom" line, which is no ROM file.
+class RomSetting : public TextFieldSetting {
+ public:
+  explicit RomSetting(ControlGroup& group) : TextFieldSetting(group, Key::rom) {}
+
+ protected:
+  void lookUp() override;
+};
+
+class BootDriveSetting : public PopUpSetting {
+ public:
+  explicit BootDriveSetting(ControlGroup& group);
+
+ protected:
+  void fill() override;
+  void chosen(std::size_t index) override { startDevice(index); }
+
+ private:
+  void startDevice(std::size_t index);
+};
+
+/// The memory: bytes in the file, megabytes in the box.
+class RamSizeSetting : public ComboBoxSetting {
+ public:
+  explicit RamSizeSetting(ControlGroup& group);
+
+ protected:
+  void fill() override;
+  void typed(const std::string& text) override;
+  void chosen(std::size_t index) override;
+  void edited() override { ramSize(); }
+
+ private:
+  void ramSize();
+  void showStoredSize();
+
+  std::vector<std::string> ramSizes_;
+  std::map<std::string, std::string> fileSizes_;  // bytes of the entries that are no whole number
+};
+
+class ModelSetting : public PopUpSetting {
+ public:
+  explicit ModelSetting(ControlGroup& group);
+
+ protected:
+  void fill() override;
+  void chosen(std::size_t index) override { modelID(index); }
+
+ private:
+  void modelID(std::size_t index);
+};
+
+/// The processor and its floating-point unit: two keys behind one button. This is the place of the
+/// second one; the first is looked up before.
+class ProcessorSetting : public PopUpSetting {
+ public:
+  explicit ProcessorSetting(ControlGroup& group);
+
+ protected:
+  void fill() override;
+  void chosen(std::size_t index) override { cpuType(index); }
+
+ private:
+  void cpuType(std::size_t index);
+};
+
+/// What the emulated machine consists of.
+class MachineGroup : public ControlGroup {
+ public:
+  using ControlGroup::ControlGroup;
+
+  RomSetting romFile{*this};
+  FileButton browseROM{"browseROM", romFile, panels};
+  BootDriveSetting stateStart{*this};
+  Setting bootdriver{*this, Key::bootdriver};
+  RamSizeSetting ramSizeMB{*this};
+  ModelSetting modelID{*this};
+  Setting cpu{*this, Key::cpu, {.form = Announcement::Form::value}};
+  ProcessorSetting cpuType{*this};
+  CheckBoxSetting stateCDROM{*this, Key::nocdrom, CheckBoxSetting::Echo::stateOnOff,
+                             {.form = Announcement::Form::optional, .label = "nocdrom: "}};
+};
+
+}  // namespace editor

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/key_table.h"
+#include "document/preferences.h"
+#include "platform/control.h"
+#include "platform/output.h"
+#include "platform/panels.h"
+
+namespace editor {
+
+using document::Key;
+
+class Setting;
+
+/// What the control groups work with, and the settings they consist of.
+class ControlGroup {
+ public:
+  ControlGroup(document::Preferences& values, platform::Output& diagnostics,
+               platform::Panels& choosers)
+      : preferences(values), output(diagnostics), panels(choosers) {}
+  ControlGroup(const ControlGroup&) = delete;
+  ControlGroup& operator=(const ControlGroup&) = delete;
+
+  /// The settings of the group, each of which adds itself.
+  [[nodiscard]] const std::vector<Setting*>& settings() const { return settings_; }
+
+  document::Preferences& preferences;
+  platform::Output& output;
+  platform::Panels& panels;
+
+ protected:
+  ~ControlGroup() = default;
+
+ private:
+  friend class Setting;
+  std::vector<Setting*> settings_;
+};
+
+/// How one key is announced in the diagnostics while the window is filled.
+struct Announcement {
+  enum class Heading {
+    none,
+    keyText,  // "dsp "
+    named,    // "ramsize: ramsize "
+    index,    // "29"
+  };
+  enum class Form {
+    none,
+    value,     // "label" and the value
+    optional,  // "label" and Optional("the value")
+    line,      // "label" and the composed line
+    matches,   // "label" and the list of lines that contain the key text
+  };
+
+  Heading heading = Heading::none;         // before the lookup
+  std::string_view found = "results: ";    // the lookup's own label
+  Form form = Form::none;                  // after the lookup
+  std::string_view label{};                // after the lookup
+};
+
+/// The place of one key in the window. This class itself carries a key through that has no control.
+class Setting {
+ public:
+  Setting(ControlGroup& group, Key key, Announcement announcement = {});
+  Setting(const Setting&) = delete;
+  Setting& operator=(const Setting&) = delete;
+  virtual ~Setting() = default;
+
+  [[nodiscard]] Key key() const { return key_; }
+
+  /// Looks the key up and shows its value.
+  void load();
+
+ protected:
+  virtual void lookUp() { group_.preferences.lookUp(key_, announcement_.found); }
+
+  /// Brings the controls in line with the value after the lookup.
+  virtual void fill() {}
+
+  [[nodiscard]] const document::KeyRow& row() const { return document::rowOf(key_); }
+  [[nodiscard]] const std::string& value() const { return group_.preferences.value(key_); }
+  void setValue(std::string value) { group_.preferences.setValue(key_, std::move(value)); }
+  [[nodiscard]] ControlGroup& group() const { return group_; }
+
+  template <typename... Parts>
+  void print(const Parts&... parts) const {
+    group_.output.print(parts...);
+  }
+
+ private:
+  void printHeading() const;
+  void printResult() const;
+
+  ControlGroup& group_;
+  Key key_;
+  Announcement announcement_;
+};
+
+/// The name that code, tests and tools know the key's control by.
+inline std::string outletOf(Key key) { return std::string(document::rowOf(key).control); }
+
+}  // namespace editor

@@ -1,0 +1,131 @@
+#include "editor/shapes.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace editor {
+
+CheckBoxSetting::CheckBoxSetting(ControlGroup& group, Key key, Echo echo,
+                                 Announcement announcement)
+    : Setting(group, key, announcement), box(outletOf(key)), echo_(echo) {
+  box.action = [this] { clicked(); };
+}
+
+void CheckBoxSetting::fill() { box.setOn(value() != "false"); }
+
+void CheckBoxSetting::clicked() {
+  if (box.state() == platform::State::mixed && echo_ != Echo::truth) {
+    return;
+  }
+  const bool on = box.state() != platform::State::off;
+  const char* const text = on ? "true" : "false";
+  print(echo_ == Echo::truth ? text : on ? "1" : "0");
+  if (echo_ == Echo::stateOnOff) {
+    print(on ? "on" : "off");
+  }
+  setValue(text);
+}
+
+TextFieldSetting::TextFieldSetting(ControlGroup& group, Key key, Announcement announcement)
+    : Setting(group, key, announcement), field(outletOf(key)) {
+  field.action = [this] { committed(); };
+}
+
+void TextFieldSetting::committed() {
+  if (field.stringValue() != value()) {
+    setValue(field.stringValue());
+  }
+  print(value());
+}
+
+void TextFieldSetting::takePath(const std::string& path) {
+  setValue(path);
+  print(path);
+  field.setStringValue(path);
+}
+
+ComboBoxSetting::ComboBoxSetting(ControlGroup& group, Key key, Announcement announcement)
+    : Setting(group, key, announcement), box(outletOf(key)) {
+  box.action = [this] { edited(); };
+}
+
+void ComboBoxSetting::edited() {
+  if (const auto index = box.indexOfSelectedItem()) {
+    chosen(*index);
+  } else {
+    typed(box.stringValue());
+  }
+}
+
+bool ComboBoxSetting::select(std::string_view text) {
+  const auto& items = box.items();
+  const auto found = std::find(items.begin(), items.end(), text);
+  if (found == items.end()) {
+    return false;
+  }
+  box.selectItem(static_cast<std::size_t>(found - items.begin()));
+  return true;
+}
+
+StepperSetting::StepperSetting(ControlGroup& group, Key key, std::string stepperName,
+                               platform::Stepper::Range range, std::string_view echo,
+                               Announcement announcement)
+    : Setting(group, key, announcement),
+      field(outletOf(key)),
+      stepper(std::move(stepperName), range),
+      echo_(echo) {
+  // What is typed into the field would change nothing: only the arrows do.
+  field.setEditable(false);
+  stepper.setIntegerValue(
+      platform::parseInt32(row().defaultValue).value_or(stepper.range().minimum));
+  stepper.action = [this] { stepped(); };
+}
+
+void StepperSetting::fill() {
+  field.setStringValue(value());
+  const auto number = platform::parseInt32(value());
+  if (number && *number >= stepper.range().minimum && *number <= stepper.range().maximum) {
+    stepper.setIntegerValue(*number);
+  }
+}
+
+void StepperSetting::stepped() {
+  const std::string text = std::to_string(stepper.integerValue());
+  print(text);
+  field.setStringValue(text);
+  setValue(text);
+  print(echo_, text);
+}
+
+PopUpSetting::PopUpSetting(ControlGroup& group, Key key, const std::vector<std::string>& titles,
+                           Announcement announcement)
+    : Setting(group, key, announcement), button(outletOf(key)) {
+  button.addItems(titles);
+  button.action = [this] { chosen(button.indexOfSelectedItem().value_or(0)); };
+}
+
+FileButton::FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels)
+    : button(std::move(name)), setting_(setting), panels_(panels) {
+  button.action = [this] { browse(); };
+}
+
+void FileButton::browse() {
+  platform::OpenPanel panel;
+  panel.directory = folderOf(setting_.field.stringValue());
+  panels_.begin(panel, [this](const std::vector<platform::Location>& chosen) {
+    if (!chosen.empty()) {
+      setting_.takePath(chosen.front().path());
+    }
+  });
+}
+
+std::string folderOf(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  return path.starts_with('/') && platform::fileExists(folder) ? folder : std::string();
+}
+
+}  // namespace editor

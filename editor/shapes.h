@@ -1,0 +1,116 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "editor/setting.h"
+
+namespace editor {
+
+/// A value that is on unless it is exactly "false".
+class CheckBoxSetting : public Setting {
+ public:
+  /// What the diagnostics say of a click.
+  enum class Echo {
+    state,       // the state's number
+    stateOnOff,  // and below it "on" or "off"
+    truth,       // "true" or "false"
+  };
+
+  CheckBoxSetting(ControlGroup& group, Key key, Echo echo, Announcement announcement = {});
+
+  platform::Button box;
+
+ protected:
+  void fill() override;
+  virtual void clicked();
+
+ private:
+  Echo echo_;
+};
+
+/// A value that is its text.
+class TextFieldSetting : public Setting {
+ public:
+  TextFieldSetting(ControlGroup& group, Key key, Announcement announcement = {});
+
+  platform::TextField field;
+
+  /// Takes over a path that was chosen in a panel.
+  void takePath(const std::string& path);
+
+ protected:
+  void fill() override { field.setStringValue(value()); }
+
+ private:
+  void committed();
+};
+
+/// A value that is typed or chosen from a list.
+class ComboBoxSetting : public Setting {
+ public:
+  ComboBoxSetting(ControlGroup& group, Key key, Announcement announcement = {});
+
+  platform::ComboBox box;
+
+ protected:
+  virtual void typed(const std::string& text) = 0;
+  virtual void chosen(std::size_t index) = 0;
+  virtual void edited();
+
+  /// Selects the entry of that text, the first of several; returns whether there is one.
+  bool select(std::string_view text);
+};
+
+/// A number that two arrows count up and down. Any other text stays in the field and in the file
+/// until the arrows are used.
+class StepperSetting : public Setting {
+ public:
+  /// `echo` begins the diagnostic line with the new value.
+  StepperSetting(ControlGroup& group, Key key, std::string stepperName,
+                 platform::Stepper::Range range, std::string_view echo, Announcement announcement);
+
+  platform::TextField field;
+  platform::Stepper stepper;
+
+ protected:
+  void fill() override;
+
+ private:
+  void stepped();
+
+  std::string_view echo_;
+};
+
+/// A value of which each stands for one entry of a list.
+class PopUpSetting : public Setting {
+ public:
+  PopUpSetting(ControlGroup& group, Key key, const std::vector<std::string>& titles,
+               Announcement announcement = {});
+
+  platform::PopUpButton button;
+
+ protected:
+  virtual void chosen(std::size_t index) = 0;
+};
+
+/// Asks for a file and puts its path into a setting.
+class FileButton {
+ public:
+  /// `name` is the name of the action.
+  FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels);
+
+  platform::Button button;
+
+ private:
+  void browse();
+
+  TextFieldSetting& setting_;
+  platform::Panels& panels_;
+};
+
+/// The folder of a path, when it exists: where a panel for another such path opens.
+std::string folderOf(const std::string& path);
+
+}  // namespace editor

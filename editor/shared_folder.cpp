@@ -1,0 +1,27 @@
+#include "editor/shared_folder.h"
+
+namespace editor {
+
+SharedFolderGroup::SharedFolderGroup(document::Preferences& values, platform::Output& diagnostics,
+                                     platform::Panels& choosers)
+    : ControlGroup(values, diagnostics, choosers) {
+  unixRoot.action = [this] { chooseFolder(); };
+}
+
+void SharedFolderGroup::chooseFolder() {
+  platform::OpenPanel panel;
+  panel.title = "Choose Unix Root Folder";
+  panel.canChooseFiles = false;
+  panel.canChooseDirectories = true;
+  panel.canCreateDirectories = true;
+  panel.directory = folderOf(unixRootPath.field.stringValue());
+  const auto chosen = panels.runModal(panel);
+  if (!chosen.empty()) {
+    const std::string path = chosen.front().path();
+    preferences.setValue(Key::extfs, path);
+    unixRootPath.field.setStringValue(path);
+    output.print(document::Preferences::line(Key::extfs, path));
+  }
+}
+
+}  // namespace editor

@@ -1,0 +1,62 @@
+#include "editor/tabs.h"
+
+#include <array>
+
+#include "app/shared_var.h"
+
+namespace editor {
+namespace {
+
+using app::sharedVar;
+
+constexpr std::size_t allTabs = 7;
+constexpr std::size_t allButScsi = 6;
+constexpr std::size_t scsiIndex = 1;
+
+struct Tab {
+  const char* identifier;
+  const char* label;
+};
+
+constexpr std::array<Tab, allTabs> tabs = {{{"volumesTab", "Volumes"},
+                                            {"scsiTab", "SCSI"},
+                                            {"machineTab", "Machine"},
+                                            {"displayTab", "Display"},
+                                            {"soundTab", "Sound & Input"},
+                                            {"networkTab", "Network"},
+                                            {"jitTab", "JIT"}}};
+
+}  // namespace
+
+Tabs::Tabs() {
+  for (const Tab& tab : tabs) {
+    auto view = std::make_shared<platform::View>(platform::View{tab.identifier});
+    tabViewC.addTabViewItem(std::make_shared<platform::TabViewItem>(
+        platform::TabViewItem{tab.identifier, tab.label, std::move(view)}));
+  }
+  scsiTab = tabViewC.items()[scsiIndex];
+  scsiView_ = scsiTab->view;
+}
+
+void Tabs::prepareScsiTab() {
+  // A view can change its tab without a copy here: the one that there is stands in for it.
+  sharedVar::newScsiTab = scsiView_;
+  if (!sharedVar::scsiTabState) {
+    tabViewC.removeTabViewItem(scsiTab);
+  }
+  scsiID0.setState(platform::State::off);
+}
+
+void Tabs::updateScsiTab() {
+  const std::size_t count = tabViewC.numberOfTabViewItems();
+  if (count == allTabs && !sharedVar::scsiTabState) {
+    tabViewC.removeTabViewItem(scsiTab);
+  } else if (count == allButScsi && sharedVar::scsiTabState) {
+    scsiTab = std::make_shared<platform::TabViewItem>(
+        platform::TabViewItem{tabs[scsiIndex].identifier, tabs[scsiIndex].label,
+                              sharedVar::newScsiTab});
+    tabViewC.insertTabViewItem(scsiTab, scsiIndex);
+  }
+}
+
+}  // namespace editor

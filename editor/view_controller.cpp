@@ -1,0 +1,109 @@
+#include "editor/view_controller.h"
+
+#include <initializer_list>
+#include <string>
+
+#include "app/emulator_location.h"
+#include "app/shared_var.h"
+
+namespace editor {
+
+using app::sharedVar;
+
+ViewController::ViewController(const platform::Host& host)
+    : preferences(host.homeDirectory, host.output),
+      volumes(host.output, host.panels),
+      sharedFolder(preferences, host.output, host.panels),
+      display(preferences, host.output, host.panels),
+      network(preferences, host.output, host.panels),
+      machine(preferences, host.output, host.panels),
+      input(preferences, host.output, host.panels),
+      jit(preferences, host.output, host.panels),
+      host_(host),
+      store_(host) {
+  connectActions();
+}
+
+void ViewController::connectActions() {
+  filename_field.action = [this] { preferences.setLocation(filename_field.stringValue()); };
+  copyPrefs.action = [this] { preferences.copyToLocation(); };
+  savePrefs.action = [this] { save("post write prefs test"); };
+  startQuil.action = [this] { startButton(); };
+  isQuit.action = [this] { host_.application.terminate(); };
+}
+
+void ViewController::viewDidLoad() {
+  volumes.wire();
+  host_.notifications.addObserver("NotificationID", [this] { isStartEnabled(); });
+  loadFrontEndSettings();
+  host_.output.print("Prefs: ", sharedVar::pathToQuil);
+  host_.output.print("QuilLocal?: ", sharedVar::localPath->path());
+  preferences.load();
+  filename_field.setStringValue(preferences.prefsPath);
+  for (Setting* const setting : settingsInKeyOrder()) {
+    setting->load();
+  }
+  volumes.load(preferences.settings.allContaining("disk "));
+}
+
+void ViewController::loadFrontEndSettings() {
+  store_.load();
+  app::findLocalPath(host_.bundle, host_.output);
+  app::applyLocalRule(host_.output);
+  startQuil.setEnabled(sharedVar::startState);
+  tabs.prepareScsiTab();
+}
+
+std::array<Setting*, document::keyCount> ViewController::settingsInKeyOrder() const {
+  std::array<Setting*, document::keyCount> ordered{};
+  for (const ControlGroup* const group : std::initializer_list<const ControlGroup*>{
+           &sharedFolder, &display, &network, &machine, &input, &jit}) {
+    for (Setting* const setting : group->settings()) {
+      ordered.at(document::indexOf(setting->key())) = setting;
+    }
+  }
+  return ordered;
+}
+
+void ViewController::viewWillAppear(platform::Window& window) {
+  window.willClose = [this] { windowWillClose(); };
+}
+
+bool ViewController::savePrefsAny() { return save("post write prefs"); }
+
+bool ViewController::save(std::string_view finalMessage) {
+  filename_field.setEnabled(true);
+  host_.application.makeFirstResponder(filename_field);
+  filename_field.setEnabled(false);
+  display.screen.join();
+  return preferences.save(volumes.volumes().paths(), finalMessage);
+}
+
+bool ViewController::saveAndLaunch() {
+  const bool saved = savePrefsAny();
+  const bool launched = host_.workspace.launchApplication(sharedVar::pathToQuil);
+  return saved && launched;
+}
+
+void ViewController::startButton() {
+  saveAndLaunch();
+  if (sharedVar::quitGUI) {
+    host_.application.terminate();
+  }
+}
+
+void ViewController::isStartEnabled() {
+  startQuil.setEnabled(sharedVar::startState);
+  tabs.updateScsiTab();
+  host_.output.print("startButton: ", sharedVar::startState ? "true" : "false");
+  host_.output.print("startButton: ", sharedVar::pathToQuil);
+  host_.output.print("startButton: ", std::to_string(sharedVar::startFlag));
+  store_.writeBack();
+}
+
+void ViewController::windowWillClose() {
+  host_.output.print("windowWillClose");
+  host_.application.terminate();
+}
+
+}  // namespace editor

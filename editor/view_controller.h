@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "app/settings_store.h"
+#include "document/preferences.h"
+#include "editor/display.h"
+#include "editor/input.h"
+#include "editor/jit.h"
+#include "editor/machine.h"
+#include "editor/network.h"
+#include "editor/presets.h"
+#include "editor/shared_folder.h"
+#include "editor/tabs.h"
+#include "platform/host.h"
+#include "volumes/volume_table.h"
+
+namespace editor {
+
+/// The settings window: owns the document, the volumes and the control groups, fills them at
+/// start-up and writes them back.
+class ViewController {
+ public:
+  explicit ViewController(const platform::Host& host);
+
+  /// The start-up sequence: reads everything and fills every control. Once, before the window is
+  /// shown.
+  void viewDidLoad();
+
+  /// Becomes the delegate of the window that is about to be shown.
+  void viewWillAppear(platform::Window& window);
+
+  /// Saves as Start does; returns whether the file was written.
+  bool savePrefsAny();
+
+  /// Saves and launches the emulator. Returns whether both went well, for who asks without looking
+  /// at the window.
+  bool saveAndLaunch();
+
+  document::Preferences preferences;
+  volumes::VolumeTable volumes;
+  SharedFolderGroup sharedFolder;
+  DisplayGroup display;
+  NetworkGroup network;
+  MachineGroup machine;
+  InputGroup input;
+  JitGroup jit;
+  Presets presets;
+  Tabs tabs;
+
+  platform::TextField filename_field{"filename_field"};
+  platform::Button copyPrefs{"copyPrefs"};
+  platform::Button savePrefs{"savePrefs"};
+  platform::Button startQuil{"startQuil"};
+  platform::Button isQuit{"isQuit"};
+
+ private:
+  void connectActions();
+  void loadFrontEndSettings();
+  [[nodiscard]] std::array<Setting*, document::keyCount> settingsInKeyOrder() const;
+  bool save(std::string_view finalMessage);
+  void startButton();
+  void isStartEnabled();
+  void windowWillClose();
+
+  platform::Host host_;
+  app::SettingsStore store_;
+};
+
+}  // namespace editor

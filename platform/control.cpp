@@ -1,0 +1,51 @@
+#include "platform/control.h"
+
+namespace platform {
+
+void PopUpButton::addItems(const std::vector<std::string>& titles) {
+  items_.insert(items_.end(), titles.begin(), titles.end());
+  if (!selected_ && !items_.empty()) {
+    selected_ = 0;
+  }
+  changed();
+}
+
+void PopUpButton::removeItem(std::size_t index) {
+  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
+  if (selected_ && *selected_ > index) {
+    --*selected_;
+  } else if (selected_ && *selected_ >= items_.size()) {
+    selected_.reset();
+  }
+  changed();
+}
+
+void ComboBox::addItem(std::string item) {
+  items_.push_back(std::move(item));
+  changed();
+}
+
+void ComboBox::addItems(const std::vector<std::string>& items) {
+  items_.insert(items_.end(), items.begin(), items.end());
+  changed();
+}
+
+void ComboBox::removeAllItems() {
+  items_.clear();
+  selected_.reset();
+  changed();
+}
+
+void ComboBox::selectItem(std::size_t index) {
+  selected_ = index;
+  setStringValue(items_[index]);
+  changed();
+}
+
+void ComboBox::enterText(std::string text) {
+  selected_.reset();
+  setStringValue(std::move(text));
+  changed();
+}
+
+}  // namespace platform

@@ -1,0 +1,200 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace platform {
+
+/// A control of a window: state plus an action, with a view that shows it or without.
+///
+/// Who writes the state through the setters has it shown. Who passes on what a person did writes
+/// it through `edit`, which runs the action and shows only what the action itself changed.
+class Control {
+ public:
+  /// `name` is what code, tests and tools call this control.
+  explicit Control(std::string name) : name_(std::move(name)) {}
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  /// Runs after a change made by the user is in the state.
+  std::function<void()> action;
+
+  [[nodiscard]] const std::string& name() const { return name_; }
+  [[nodiscard]] bool isEnabled() const { return enabled_; }
+  void setEnabled(bool enabled) { set(enabled_, enabled); }
+
+  /// Lets `show` bring the view in line with the state, now and after every change of it. There is
+  /// at most one view.
+  void attach(std::function<void()> show) {
+    show_ = std::move(show);
+    changed();
+  }
+  void detach() { show_ = nullptr; }
+
+  /// Does what the user did: `write` puts it into the state, then the action runs.
+  template <typename Write>
+  void edit(Write write) {
+    {
+      auto hidden = std::exchange(show_, nullptr);
+      write();
+      show_ = std::move(hidden);
+    }
+    sendAction();
+  }
+
+  void sendAction() const {
+    if (action) {
+      action();
+    }
+  }
+
+ protected:
+  void changed() const {
+    if (show_) {
+      show_();
+    }
+  }
+
+  template <typename Value>
+  void set(Value& field, Value value) {
+    if (field != value) {
+      field = std::move(value);
+      changed();
+    }
+  }
+
+ private:
+  std::string name_;
+  bool enabled_ = true;
+  std::function<void()> show_;
+};
+
+enum class State : std::int8_t { mixed = -1, off = 0, on = 1 };
+
+/// A push button, a check box, a radio button or a menu entry.
+class Button : public Control {
+ public:
+  explicit Button(std::string name, std::string title = {})
+      : Control(std::move(name)), title_(std::move(title)) {}
+
+  [[nodiscard]] const std::string& title() const { return title_; }
+  void setTitle(std::string title) { set(title_, std::move(title)); }
+  [[nodiscard]] State state() const { return state_; }
+  [[nodiscard]] bool isOn() const { return state_ == State::on; }
+  void setState(State state) { set(state_, state); }
+  void setOn(bool on) { setState(on ? State::on : State::off); }
+
+ private:
+  std::string title_;
+  State state_ = State::off;
+};
+
+/// A list of texts of which one is chosen, or none.
+class Choice {
+ public:
+  [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
+  [[nodiscard]] std::optional<std::size_t> indexOfSelectedItem() const { return selected_; }
+
+ protected:
+  std::vector<std::string> items_;
+  std::optional<std::size_t> selected_;
+};
+
+/// A button that shows one of its entries.
+class PopUpButton : public Control, public Choice {
+ public:
+  using Control::Control;
+
+  void addItems(const std::vector<std::string>& titles);
+  void removeItem(std::size_t index);
+  void selectItem(std::size_t index) { set(selected_, std::optional(index)); }
+};
+
+/// The colours that a text field takes on to say how things went.
+enum class TextColor : std::uint8_t { standard, gray, red, blue };
+
+class TextField : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] const std::string& stringValue() const { return text_; }
+  void setStringValue(std::string text) { set(text_, std::move(text)); }
+  [[nodiscard]] bool isEditable() const { return editable_; }
+  void setEditable(bool editable) { set(editable_, editable); }
+  [[nodiscard]] TextColor textColor() const { return color_; }
+  void setTextColor(TextColor color) { set(color_, color); }
+
+ private:
+  std::string text_;
+  bool editable_ = true;
+  TextColor color_ = TextColor::standard;
+};
+
+/// A text field with a list of texts to choose from. No entry is selected when the user typed,
+/// be it a text that stands in the list.
+class ComboBox : public TextField, public Choice {
+ public:
+  using TextField::TextField;
+
+  void addItem(std::string item);
+  void addItems(const std::vector<std::string>& items);
+  void removeAllItems();
+
+  /// Selects an entry and takes its text.
+  void selectItem(std::size_t index);
+
+  /// Takes a text that was typed: no entry is selected.
+  void enterText(std::string text);
+
+  /// Whether entries are offered to complete what is being typed.
+  [[nodiscard]] bool completes() const { return completes_; }
+  void setCompletes(bool completes) { set(completes_, completes); }
+
+ private:
+  bool completes_ = false;
+};
+
+/// Two arrows that count up and down.
+class Stepper : public Control {
+ public:
+  struct Range {
+    std::int32_t minimum;
+    std::int32_t maximum;
+    std::int32_t increment = 1;
+  };
+
+  Stepper(std::string name, Range range)
+      : Control(std::move(name)), range_(range), value_(range.minimum) {}
+
+  [[nodiscard]] const Range& range() const { return range_; }
+  [[nodiscard]] std::int32_t integerValue() const { return value_; }
+  void setIntegerValue(std::int32_t value) { set(value_, value); }
+
+ private:
+  Range range_;
+  std::int32_t value_;
+};
+
+/// Shows that something is going on.
+class ProgressIndicator : public Control {
+ public:
+  using Control::Control;
+
+  void setUsesThreadedAnimation(bool threaded) { threaded_ = threaded; }
+  [[nodiscard]] bool usesThreadedAnimation() const { return threaded_; }
+  void startAnimation() { set(animating_, true); }
+  void stopAnimation() { set(animating_, false); }
+  [[nodiscard]] bool isAnimating() const { return animating_; }
+
+ private:
+  bool threaded_ = false;
+  bool animating_ = false;
+};
+
+}  // namespace platform

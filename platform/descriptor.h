@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace platform {
+
+/// An open file descriptor, closed at the end.
+class Descriptor {
+ public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  ~Descriptor() { close(); }
+
+  /// Opens a regular file without ever waiting and hidden from started programs. A folder, pipe or
+  /// device is refused, the reason in `error`.
+  static Descriptor openRegular(const std::string& path, int flags, std::error_code& error);
+
+  [[nodiscard]] int get() const { return number_; }
+  [[nodiscard]] bool isOpen() const { return number_ >= 0; }
+
+  /// Closes at once; the only way to learn of an error that shows no earlier.
+  std::error_code close();
+
+ private:
+  int number_;
+};
+
+/// The error that the last system call left behind.
+std::error_code lastError();
+
+/// Calls again for as long as a signal interrupts the system call.
+template <typename Call>
+auto retried(Call call) -> decltype(call()) {
+  for (;;) {
+    const auto result = call();
+    if (result != -1 || lastError() != std::errc::interrupted) {
+      return result;
+    }
+  }
+}
+
+}  // namespace platform

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace platform {
+
+/// Whether a file or folder is there, links followed.
+bool fileExists(const std::string& path);
+
+/// The whole content of a regular file. None, with the reason in `error`, for anything else: a
+/// folder, a pipe or a device (never waited for), or a file of more than `limit` bytes.
+std::optional<std::string> readFile(const std::string& path, std::error_code& error,
+                                    std::size_t limit = std::numeric_limits<std::size_t>::max());
+
+/// As readFile, for a file of UTF-8 text; `illegal_byte_sequence` when it holds something else.
+std::optional<std::string> readTextFile(const std::string& path, std::error_code& error);
+
+/// Replaces the content of a file where it is, creating it when missing: links, mode and owner
+/// stay. The space is reserved before anything is changed, and a write that fails all the same is
+/// taken back, so that after an error the file holds what it held.
+std::error_code writeFile(const std::string& path, std::string_view content);
+
+/// Copies a file to a place where there is none yet, with its mode.
+std::error_code copyFile(const std::string& from, const std::string& to);
+
+/// The size of a regular file in bytes, 0 for a folder; none, with the reason in `error`, when it
+/// cannot be read.
+std::optional<std::int64_t> fileSize(const std::string& path, std::error_code& error);
+
+/// `path`, its folder percent-decoded where only that form of the folder exists.
+std::string withExistingFolder(const std::string& path);
+
+}  // namespace platform

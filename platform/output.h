@@ -1,0 +1,64 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// Where the diagnostic lines go: standard output in the program, a buffer in tests.
+class Output {
+ public:
+  Output() = default;
+  Output(const Output&) = delete;
+  Output& operator=(const Output&) = delete;
+  virtual ~Output() = default;
+
+  /// Writes the parts and a line feed as one line, at once, so that a reader sees it live.
+  template <typename... Parts>
+  void print(const Parts&... parts) {
+    write({std::string_view(parts)..., std::string_view("\n")});
+  }
+
+ private:
+  virtual void write(std::initializer_list<std::string_view> parts) = 0;
+};
+
+/// Keeps the lines in memory.
+class BufferOutput : public Output {
+ public:
+  std::string text;
+
+ private:
+  void write(std::initializer_list<std::string_view> parts) override;
+};
+
+/// Writes to an open file descriptor. A reader that has gone away, or one that takes nothing for a
+/// few seconds, ends the output for good: diagnostics must never stop the window.
+class DescriptorOutput : public Output {
+ public:
+  explicit DescriptorOutput(int descriptor);
+
+ private:
+  void write(std::initializer_list<std::string_view> parts) override;
+  bool send(std::string_view part);
+
+  int descriptor_;
+  bool mayBlock_;
+  bool broken_ = false;
+};
+
+/// `text` as an optional value is printed: Optional("text").
+std::string optionalText(std::string_view text);
+
+/// The texts as a list is printed: ["a", "b"].
+template <typename Texts>
+std::string listText(const Texts& texts) {
+  std::string list = "[";
+  for (const auto& text : texts) {
+    list.append(list.size() > 1 ? ", \"" : "\"").append(text).append("\"");
+  }
+  return list += "]";
+}
+
+}  // namespace platform

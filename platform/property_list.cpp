@@ -1,0 +1,95 @@
+#include "platform/property_list.h"
+
+#include <plist/plist.h>
+
+#include <cstdlib>
+
+#include "platform/files.h"
+
+namespace platform {
+namespace {
+
+// Bounds the memory and the recursion of the parser, too.
+constexpr std::size_t sizeLimit = std::size_t{64} * 1024;
+
+}  // namespace
+
+PropertyList::PropertyList() : root_(plist_new_dict()) {}
+
+void PropertyList::Free::operator()(Node node) const { plist_free(node); }
+
+std::optional<PropertyList> PropertyList::read(const std::string& path, std::error_code& error) {
+  const auto content = readFile(path, error, sizeLimit);
+  if (!content) {
+    return std::nullopt;
+  }
+  plist_t root = nullptr;
+  plist_from_memory(content->data(), static_cast<std::uint32_t>(content->size()), &root);
+  PropertyList list(root);
+  if (plist_get_node_type(root) != PLIST_DICT) {
+    error = std::make_error_code(std::errc::invalid_argument);
+    return std::nullopt;
+  }
+  return list;
+}
+
+PropertyList::Node PropertyList::item(const std::string& key) const {
+  return plist_dict_get_item(root_.get(), key.c_str());
+}
+
+std::optional<std::string> PropertyList::text(const std::string& key) const {
+  const plist_t node = item(key);
+  if (plist_get_node_type(node) != PLIST_STRING) {
+    return std::nullopt;
+  }
+  char* value = nullptr;
+  plist_get_string_val(node, &value);
+  const std::unique_ptr<char, decltype(&std::free)> owned(value, &std::free);
+  return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+}
+
+std::optional<bool> PropertyList::boolean(const std::string& key) const {
+  const plist_t node = item(key);
+  if (plist_get_node_type(node) != PLIST_BOOLEAN) {
+    return std::nullopt;
+  }
+  std::uint8_t value = 0;
+  plist_get_bool_val(node, &value);
+  return value != 0;
+}
+
+std::optional<std::int64_t> PropertyList::integer(const std::string& key) const {
+  const plist_t node = item(key);
+  if (plist_get_node_type(node) != PLIST_UINT) {
+    return std::nullopt;
+  }
+  std::uint64_t value = 0;
+  plist_get_uint_val(node, &value);
+  return static_cast<std::int64_t>(value);
+}
+
+void PropertyList::set(const std::string& key, const std::string& text) {
+  plist_dict_set_item(root_.get(), key.c_str(), plist_new_string(text.c_str()));
+}
+
+void PropertyList::set(const std::string& key, bool value) {
+  plist_dict_set_item(root_.get(), key.c_str(), plist_new_bool(value ? 1 : 0));
+}
+
+void PropertyList::set(const std::string& key, std::int64_t value) {
+  // The library makes unsigned numbers only: a negative one that was read is left as it stands.
+  if (integer(key) != value) {
+    plist_dict_set_item(root_.get(), key.c_str(),
+                        plist_new_uint(static_cast<std::uint64_t>(value)));
+  }
+}
+
+std::optional<std::string> PropertyList::xml() const {
+  char* text = nullptr;
+  std::uint32_t length = 0;
+  plist_to_xml(root_.get(), &text, &length);
+  const std::unique_ptr<char, decltype(&plist_to_xml_free)> owned(text, &plist_to_xml_free);
+  return text != nullptr ? std::optional<std::string>(std::in_place, text, length) : std::nullopt;
+}
+
+}  // namespace platform

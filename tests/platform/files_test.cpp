@@ -1,0 +1,159 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <functional>
+
+#include "tests/support/temporary_folder.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct FilesTest : ::testing::Test {
+  tests::TemporaryFolder folder;
+  std::error_code error;
+};
+
+// Runs `body` with a limit of this process lowered.
+void withLimit(__rlimit_resource kind, rlim_t value, const std::function<void()>& body) {
+  rlimit former{};
+  ::getrlimit(kind, &former);
+  const rlimit lowered{value, former.rlim_max};
+  ::setrlimit(kind, &lowered);
+  body();
+  ::setrlimit(kind, &former);
+}
+
+TEST_F(FilesTest, WritingKeepsLinksAndMode) {
+  const std::string file = folder.write("prefs", "a long former content\n");
+  ASSERT_EQ(::chmod(file.c_str(), 0600), 0);
+  fs::create_symlink("prefs", folder.path("soft"));
+  fs::create_hard_link(file, folder.path("hard"));
+  for (const auto* name : {"prefs", "soft", "hard"}) {
+    for (const std::string content : {"short\n", "", "a content that is longer than before\n"}) {
+      EXPECT_FALSE(writeFile(folder.path(name), content));
+      EXPECT_EQ(folder.read("hard"), content) << name;
+    }
+  }
+  EXPECT_EQ(fs::hard_link_count(file), 2);
+  EXPECT_TRUE(fs::is_symlink(folder.path("soft")));
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+  fs::create_symlink("made", folder.path("dangling"));
+  EXPECT_FALSE(writeFile(folder.path("dangling"), "x"));
+  EXPECT_EQ(folder.read("made"), "x");
+}
+
+TEST_F(FilesTest, WithoutSpaceAllStaysAsItWas) {
+  const std::string large(8000, 'n');
+  const std::string source = folder.write("source", large);
+  const std::string grown = folder.write("grown", "old\n");
+  const std::string cut = folder.write("cut", large);
+  fs::create_symlink("target", folder.path("dangling"));
+  const auto former = ::signal(SIGXFSZ, SIG_IGN);
+  withLimit(RLIMIT_FSIZE, 4096, [&] {
+    EXPECT_TRUE(writeFile(grown, large));
+    EXPECT_TRUE(writeFile(folder.path("new"), large));
+    EXPECT_TRUE(writeFile(folder.path("dangling"), large));
+    EXPECT_TRUE(copyFile(source, folder.path("copy")));
+    error = writeFile(cut, "new\n");
+  });
+  ::signal(SIGXFSZ, former);
+  EXPECT_EQ(folder.read("grown"), "old\n");
+  EXPECT_TRUE(folder.read("cut") == (error ? large : "new\n"));
+  for (const auto* none : {"new", "target", "copy"}) {
+    EXPECT_FALSE(fileExists(folder.path(none))) << none;
+  }
+  EXPECT_TRUE(fs::is_symlink(folder.path("dangling")));
+}
+
+TEST_F(FilesTest, HeedsPermissions) {
+  const std::string readOnly = folder.write("read only", "old\n");
+  const std::string writeOnly = folder.write("write only", "a longer content\n");
+  // The superuser may read and write everything: be somebody else for a while.
+  const uid_t user = ::geteuid() == 0 ? 65534 : ::geteuid();
+  for (const std::string& path : {readOnly, writeOnly, folder.path()}) {
+    ASSERT_EQ(::chown(path.c_str(), user, static_cast<gid_t>(-1)), 0);
+  }
+  fs::permissions(readOnly, fs::perms(0400));
+  fs::permissions(writeOnly, fs::perms(0200));
+  ASSERT_EQ(::seteuid(user), 0);
+  EXPECT_EQ(writeFile(readOnly, "new\n"), std::errc::permission_denied);
+  EXPECT_FALSE(writeFile(writeOnly, "new\n"));
+  EXPECT_FALSE(readFile(writeOnly, error));
+  EXPECT_EQ(error, std::errc::permission_denied);
+  fs::permissions(writeOnly, fs::perms(0600));
+  EXPECT_EQ(::seteuid(::getuid()), 0);
+  EXPECT_EQ(folder.read("read only"), "old\n");
+  EXPECT_EQ(folder.read("write only"), "new\n");
+}
+
+TEST_F(FilesTest, RefusesWhatIsNoFileWithoutWaiting) {
+  ASSERT_EQ(::mkfifo(folder.path("fifo").c_str(), 0600), 0);
+  const std::pair<std::string, std::errc> cases[] = {
+      {folder.path(), std::errc::is_a_directory},
+      {folder.path("fifo"), std::errc::operation_not_supported},
+      {"/dev/zero", std::errc::operation_not_supported},
+      {folder.path("no/where"), std::errc::no_such_file_or_directory},
+      {"", std::errc::no_such_file_or_directory},
+      {folder.path(std::string("a\0b", 3)), std::errc::invalid_argument}};
+  for (const auto& [path, reason] : cases) {
+    EXPECT_FALSE(readFile(path, error));
+    EXPECT_EQ(error, reason) << "reading " << path;
+    EXPECT_EQ(writeFile(path, "x"), reason) << "writing " << path;
+  }
+  errno = 0;
+  EXPECT_FALSE(fileSize(folder.path(std::string("a\0b", 3)), error));
+  EXPECT_TRUE(error);
+}
+
+TEST_F(FilesTest, ReadsWithinItsLimits) {
+  const std::string file = folder.write("latin", "123456789\xe9");
+  EXPECT_EQ(fileSize(file, error), 10);
+  EXPECT_EQ(fileSize(folder.path(), error), 0);
+  EXPECT_TRUE(readFile(file, error, 10));
+  EXPECT_FALSE(readTextFile(file, error));
+  EXPECT_EQ(error, std::errc::illegal_byte_sequence);
+  EXPECT_GT(readFile("/proc/self/status", error).value_or("").size(), 10U) << "tells no size";
+  for (const auto& path : {file, std::string("/proc/self/status")}) {
+    EXPECT_FALSE(readFile(path, error, 9));
+    EXPECT_EQ(error, std::errc::file_too_large);
+  }
+#ifndef __SANITIZE_ADDRESS__  // which ends the program when memory is short
+  fs::resize_file(file, std::uintmax_t{4} << 30U);
+  withLimit(RLIMIT_AS, rlim_t{2} << 30U, [&] { EXPECT_FALSE(readFile(file, error)); });
+  EXPECT_EQ(error, std::errc::not_enough_memory);
+#endif
+}
+
+TEST_F(FilesTest, CopiesNeverReplace) {
+  const std::string source = folder.write("source", "new");
+  fs::permissions(source, fs::perms(0640));
+  folder.write("there", "old");
+  fs::create_symlink("target", folder.path("dangling"));
+  for (const auto* name : {"there", "dangling", "source"}) {
+    EXPECT_EQ(copyFile(source, folder.path(name)), std::errc::file_exists) << name;
+  }
+  EXPECT_EQ(folder.read("there"), "old");
+  EXPECT_FALSE(copyFile(source, folder.path("copy")));
+  EXPECT_EQ(fs::status(folder.path("copy")).permissions(), fs::perms(0640));
+}
+
+TEST_F(FilesTest, DecodesOnlyMissingFolders) {
+  for (const auto* made : {"a b/x", "c%20d/x", "c d/x"}) {
+    folder.write(made, "");
+  }
+  EXPECT_EQ(withExistingFolder(folder.path("a%20b/Q%20.app")), folder.path("a b/Q%20.app"));
+  for (const auto& same : {folder.path("c%20d/Q"), folder.path("e%20f/Q"), std::string("Q%20")}) {
+    EXPECT_EQ(withExistingFolder(same), same);
+  }
+}
+
+}  // namespace
+}  // namespace platform

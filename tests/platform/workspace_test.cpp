@@ -1,0 +1,138 @@
+#include "platform/workspace.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <sstream>
+#include <thread>
+
+#include "platform/bundle.h"
+#include "platform/descriptor.h"
+#include "tests/support/temporary_folder.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Leaves its findings in the file "found" of its working directory.
+constexpr auto script = R"(#!/bin/sh
+{ readlink /proc/self/fd/0; cut -d' ' -f6 /proc/self/stat
+  sed -n 's/^SigIgn:.//p' /proc/self/status; echo $(ls /proc/self/fd); } >found.new
+printf %s "$0" >program
+mv found.new found
+)";
+
+class WorkspaceTest : public ::testing::Test {
+ protected:
+  WorkspaceTest() { fs::create_directory(home); }
+
+  // Makes a script that may be run.
+  [[nodiscard]] std::string program(const std::string& name) const {
+    std::string file = folder.write(name, script);
+    fs::permissions(file, fs::perms::owner_all);
+    return file;
+  }
+
+  // What the program that is started at `path` found; empty when none was started.
+  std::string launch(const std::string& path) {
+    fs::remove(home + "/found");
+    if (!workspace.launchApplication(path)) {
+      return {};
+    }
+    for (int round = 0; round < 1000 && !fs::exists(home + "/found"); ++round) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return folder.read("home/found");
+  }
+
+  tests::TemporaryFolder folder;
+  std::string home = folder.path("home");
+  ProcessWorkspace workspace{home};
+};
+
+TEST_F(WorkspaceTest, DetachesWhatItStarts) {
+  const auto former = ::signal(SIGPIPE, SIG_IGN);
+  const Descriptor open(::open("/dev/null", O_RDONLY));
+  const Descriptor high(::fcntl(open.get(), F_DUPFD, 200));
+  const std::string found = launch(program("program"));
+  ::signal(SIGPIPE, former);
+  std::string input, session, ignored, descriptors;
+  std::istringstream words(found);
+  words >> input >> session >> ignored;
+  std::getline(words >> std::ws, descriptors);
+  EXPECT_EQ(input, "/dev/null") << found;
+  EXPECT_NE(session, std::to_string(::getsid(0)));
+  EXPECT_EQ(std::stoull("0" + ignored, nullptr, 16) >> (SIGPIPE - 1U) & 1U, 0U);
+  EXPECT_EQ(descriptors, "0 1 2 3") << "the last is the listing's own";
+  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+  EXPECT_EQ(errno, ECHILD);
+}
+
+TEST_F(WorkspaceTest, StartsWhenChildrenAreNotWaitedFor) {
+  const auto former = ::signal(SIGCHLD, SIG_IGN);
+  EXPECT_NE(launch(program("program")), "");
+  ::signal(SIGCHLD, former);
+}
+
+TEST_F(WorkspaceTest, FindsTheExecutable) {
+  const auto naming = [&](const std::string& bundle, const std::string& name) {
+    folder.write(
+        bundle + "/Contents/Info.plist",
+        "<plist><dict><key>CFBundleExecutable</key><string>" + name + "</string></dict></plist>");
+    return folder.path(bundle);
+  };
+  const std::pair<std::string, std::string> cases[] = {
+      // what is started, what then runs
+      {folder.path("plain"), "plain"},
+      {naming("Q.app", "emulator"), "Q.app/Contents/MacOS/emulator"},
+      {naming("Up.app", "../../evil"), "Up.app/Contents/MacOS/Up"},
+      {folder.path("Bare.app//"), "Bare.app/Contents/MacOS/Bare"},
+      {folder.path("/a  b\n'\"$(x);*/Q \".app"), "a  b\n'\"$(x);*/Q \".app/Contents/MacOS/Q \""},
+      {folder.path("e%20f/Q.app"), "e f/Q.app/Contents/MacOS/Q"},
+      {folder.path("/-rf///-n"), "-rf/-n"},
+      {"-rf/-n", "-rf/-n"}};
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.path());
+  for (const auto& [path, executable] : cases) {
+    const std::string expected = program(executable);
+    EXPECT_NE(launch(path), "") << path;
+    EXPECT_TRUE(fs::equivalent(folder.read("home/program"), expected)) << path;
+  }
+  fs::current_path(before);
+}
+
+TEST_F(WorkspaceTest, TellsWhatCannotBeStarted) {
+  folder.write("Data.app/Contents/MacOS/Data", "#!/bin/sh\n");
+  fs::create_directories(folder.path("Folder.app/Contents/MacOS/Folder"));
+  fs::permissions(folder.write("no interpreter", "#!/no/such/program\n"), fs::perms::owner_all);
+  for (const std::string path : {"none", "Data.app", "Data.app/Contents/MacOS/Data", "Folder.app",
+                                 "no interpreter", "Data.app/Contents/MacOS/Data/below"}) {
+    EXPECT_FALSE(workspace.launchApplication(folder.path(path))) << path;
+  }
+  EXPECT_FALSE(workspace.launchApplication(""));
+  EXPECT_FALSE(workspace.launchApplication(program("cut") + std::string("\0.app", 5)));
+}
+
+TEST(Bundle, DISABLED_TellsItself) { std::ofstream("bundle") << Bundle::mainBundle().path(); }
+
+// Runs a copy of this program through a link; it tells what it takes for its bundle.
+TEST(Bundle, IsFoundFromTheExecutable) {
+  const tests::TemporaryFolder folder;
+  fs::create_directories(folder.path("My Q.app/Contents/MacOS"));
+  fs::copy_file("/proc/self/exe", folder.path("My Q.app/Contents/MacOS/settings"));
+  fs::create_symlink("My Q.app/Contents/MacOS/settings", folder.path("link"));
+  const std::string command = "cd " + folder.path() + " && ./link --gtest_brief=1" +
+                              " --gtest_also_run_disabled_tests --gtest_filter=*TellsItself";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(folder.read("bundle"), folder.path("My Q.app"));
+}
+
+}  // namespace
+}  // namespace platform
