@@ -32,6 +32,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, Edits& edits,
   buildPages(images);
   buildMenus();
   controller.tabs.tabViewC.attach([this] { showTabs(); });
+  resize(720, 560);
   controller.viewWillAppear(delegate_);
 }
 
