@@ -4,8 +4,11 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <iostream>
 #include <string>
 
+#include "app/command_line.h"
+#include "app/start_command.h"
 #include "desktop/run.h"
 
 namespace {
@@ -36,15 +39,38 @@ std::string homeDirectory() {
   return home;
 }
 
+std::string configHome(const std::string& home) {
+  const std::string folder = variable("XDG_CONFIG_HOME");
+  return folder.starts_with('/') ? folder : home + "/.config";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   openStandardStreams();
+  // A reader that went away and a limit on file sizes are errors to report, not reasons to end.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+
+  const app::CommandLine line = app::parseCommandLine(argc, argv);
+  if (line.task == app::CommandLine::Task::refuse) {
+    std::cerr << "quillon-settings: unknown option '" << line.refused << "'\n" << app::usage();
+    return 2;
+  }
+  if (line.task == app::CommandLine::Task::help) {
+    std::cout << app::usage() << std::flush;
+    return 0;
+  }
+  if (line.task == app::CommandLine::Task::version) {
+    std::cout << "quillon-settings " << QUILLON_VERSION << std::endl;
+    return 0;
+  }
+
   platform::DescriptorOutput output(STDOUT_FILENO);
+  const platform::Bundle bundle = platform::Bundle::mainBundle();
   const std::string home = homeDirectory();
-  const std::string config = variable("XDG_CONFIG_HOME");
-  return desktop::run(argc, argv,
-                      {home, config.starts_with('/') ? config : home + "/.config",
-                       platform::Bundle::mainBundle(), output});
+  const std::string config = configHome(home);
+  return line.task == app::CommandLine::Task::start
+             ? app::startWithoutWindow(home, config, bundle, output)
+             : desktop::run(argc, argv, {home, config, bundle, output, QUILLON_VERSION});
 }

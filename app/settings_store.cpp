@@ -59,7 +59,8 @@ void SettingsStore::load() {
 }
 
 void SettingsStore::writeBack() {
-  eachSetting([&](const char* key, const auto& field, auto, const auto&) { dict_.set(key, field); });
+  eachSetting(
+      [&](const char* key, const auto& field, auto, const auto&) { dict_.set(key, field); });
   writePlist();
 }
 

@@ -20,7 +20,7 @@ struct sharedVar {  // NOLINT(readability-identifier-naming): the record is itse
   static inline std::string pathToQuil;      // the emulator that Start launches
   static inline std::string pathToQuilRoot;  // the folder of the front-end, ending in "/"
   static inline std::int64_t startFlag = startNone;
-  static inline bool startState = false;  // whether Start is enabled
+  static inline bool startState = false;                      // whether Start is enabled
   static inline std::optional<platform::Location> localPath;  // the folder of the front-end
   static inline bool scsiTabState = false;                    // whether the SCSI tab is shown
   static inline bool quitGUI = false;  // whether the front-end ends after Start

@@ -6,7 +6,7 @@ set_target_properties(desktop PROPERTIES AUTOMOC ON)
 
 set(bundle ${CMAKE_BINARY_DIR}/QuillonSettings.app)
 set(contents ${bundle}/Contents)
-add_executable(quillon-settings app/main.cpp)
+add_executable(quillon-settings app/main.cpp app/start_command.cpp)
 target_link_libraries(quillon-settings PRIVATE desktop)
 target_compile_definitions(quillon-settings PRIVATE QUILLON_VERSION="${PROJECT_VERSION}")
 set_target_properties(quillon-settings PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${contents}/MacOS)

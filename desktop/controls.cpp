@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "desktop/status_line.h"
 #include "desktop/stepper_box.h"
 #include "desktop/texts.h"
 
@@ -72,9 +73,10 @@ QString helpOf(document::Key key) {
               ? translated("If unsure, leave it empty.")
               : translated("If unsure, leave it at \"%1\".").arg(quoted(row.defaultValue));
   help += QLatin1Char(' ');
-  help += row.written.empty() ? translated("Writes \"%1\".").arg(quoted(row.text).trimmed())
-                              : translated("Writes \"%1\", %2.")
-                                    .arg(quoted(row.text).trimmed(), translated(row.written.data()));
+  help += row.written.empty()
+              ? translated("Writes \"%1\".").arg(quoted(row.text).trimmed())
+              : translated("Writes \"%1\", %2.")
+                    .arg(quoted(row.text).trimmed(), translated(row.written.data()));
   return help;
 }
 
@@ -94,9 +96,16 @@ QPushButton* Controls::pushButton(platform::Button& control, const QString& text
                                   const QString& help) {
   auto* const button = new QPushButton(text);
   describe(button, control, help);
-  attach(control, button, [button, &control] { button->setEnabled(control.isEnabled()); });
-  QObject::connect(button, &QPushButton::clicked, [this, &control] {
-    edits_.endEditing();
+  attach(control, button, [button, &control] {
+    button->setEnabled(control.isEnabled());
+    if (!control.title().empty()) {
+      button->setText(shown(control.title()));
+    }
+  });
+  QObject::connect(button, &QPushButton::clicked, [this, button, &control] {
+    if ((button->focusPolicy() & Qt::ClickFocus) != 0) {
+      edits_.endEditing();
+    }
     control.sendAction();
   });
   return button;
@@ -119,8 +128,7 @@ ButtonWidget* Controls::checkable(platform::Button& control, const QString& text
   return button;
 }
 
-QCheckBox* Controls::checkBox(platform::Button& control, const QString& text,
-                              const QString& help) {
+QCheckBox* Controls::checkBox(platform::Button& control, const QString& text, const QString& help) {
   return checkable<QCheckBox>(control, text, help);
 }
 
@@ -132,11 +140,10 @@ QRadioButton* Controls::radioButton(platform::Button& control, const QString& te
 QAction* Controls::menuEntry(platform::Button& control, const QString& text, QObject* parent) {
   auto* const entry = new QAction(text, parent);
   entry->setObjectName(shown(control.name()));
+  entry->setCheckable(true);
   control.attach([entry, &control] {
     entry->setEnabled(control.isEnabled());
-    if (entry->isCheckable()) {
-      entry->setChecked(control.isOn());
-    }
+    entry->setChecked(control.isOn());
   });
   QObject::connect(entry, &QObject::destroyed, [&control] { control.detach(); });
   QObject::connect(entry, &QAction::triggered, [this, &control] {
@@ -150,9 +157,10 @@ QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help)
   auto* const field = new QLineEdit;
   describe(field, control, help);
   field->setMaxLength(std::numeric_limits<int>::max());
-  auto* const pending = new PendingEdit(field, edits_, [&control](const QString& text) {
-    control.edit([&] { control.setStringValue(stored(text)); });
-  });
+  const auto take = [&control](const QString& text) { control.setStringValue(stored(text)); };
+  auto* const pending = new PendingEdit(
+      field, edits_, [take, &control](const QString& text) { control.note([&] { take(text); }); },
+      [take, &control](const QString& text) { control.edit([&] { take(text); }); });
   attach(control, field, [field, pending, &control] {
     field->setEnabled(control.isEnabled());
     field->setReadOnly(!control.isEditable());
@@ -171,6 +179,7 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
   guardWheel(box);
   box->setEditable(true);
   box->setInsertPolicy(QComboBox::NoInsert);
+  box->setMinimumContentsLength(12);
   if (control.completes()) {
     // Entries are offered below the field and never put into it unasked.
     box->completer()->setCompletionMode(QCompleter::PopupCompletion);
@@ -188,9 +197,12 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
     box->setCurrentIndex(selected ? static_cast<int>(*selected) : box->findText(text));
     box->setEditText(text);
   };
-  auto* const pending =
-      new PendingEdit(box->lineEdit(), edits_, [show, &control](const QString& text) {
-        control.edit([&] { control.enterText(stored(text)); });
+  const auto take = [&control](const QString& text) { control.enterText(stored(text)); };
+  auto* const pending = new PendingEdit(
+      box->lineEdit(), edits_,
+      [take, &control](const QString& text) { control.note([&] { take(text); }); },
+      [take, show, &control](const QString& text) {
+        control.edit([&] { take(text); });
         show();
       });
   attach(control, box, [show, pending] {
@@ -231,6 +243,27 @@ QWidget* Controls::stepper(platform::Stepper& control, platform::TextField& fiel
   attach(control, box, [box] { box->showState(); });
   attach(field, box, [box] { box->showState(); });
   return box;
+}
+
+QLabel* Controls::statusLine(platform::TextField& control) {
+  auto* const line = new StatusLine;
+  describe(line, control, {});
+  attach(control, line,
+         [line, &control] { line->show(shown(control.stringValue()), control.textColor()); });
+  return line;
+}
+
+QProgressBar* Controls::progressBar(platform::ProgressIndicator& control) {
+  auto* const bar = new QProgressBar;
+  describe(bar, control, {});
+  bar->setAccessibleName(QCoreApplication::translate("Controls", "Activity"));
+  bar->setTextVisible(false);
+  attach(control, bar, [bar, &control] {
+    // A bar without a range moves for as long as it is shown.
+    bar->setRange(0, control.isAnimating() ? 0 : 1);
+    bar->setValue(0);
+  });
+  return bar;
 }
 
 }  // namespace desktop

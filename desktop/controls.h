@@ -3,7 +3,9 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QString>
@@ -22,9 +24,12 @@ class Controls {
  public:
   explicit Controls(Edits& edits) : edits_(edits) {}
 
+  /// The control's own title, where it has one, stands for `text`. A button that takes no focus on
+  /// a click leaves an edit in another field open.
   QPushButton* pushButton(platform::Button& control, const QString& text, const QString& help);
   QCheckBox* checkBox(platform::Button& control, const QString& text, const QString& help);
   QRadioButton* radioButton(platform::Button& control, const QString& text, const QString& help);
+  /// A menu entry with a check mark.
   QAction* menuEntry(platform::Button& control, const QString& text, QObject* parent);
   QLineEdit* lineEdit(platform::TextField& control, const QString& help);
   QComboBox* comboBox(platform::ComboBox& control, const QString& help);
@@ -32,6 +37,10 @@ class Controls {
 
   /// Two arrows around the read-only field that shows the number.
   QWidget* stepper(platform::Stepper& control, platform::TextField& field, const QString& help);
+
+  /// A text that tells how things went, in its colour.
+  static QLabel* statusLine(platform::TextField& control);
+  static QProgressBar* progressBar(platform::ProgressIndicator& control);
 
   [[nodiscard]] Edits& edits() const { return edits_; }
 

@@ -17,14 +17,14 @@ void Edits::endEditing() {
   }
 }
 
-PendingEdit::PendingEdit(QLineEdit* field, Edits& edits,
-                         std::function<void(const QString&)> commit)
+PendingEdit::PendingEdit(QLineEdit* field, Edits& edits, Taker note, Taker commit)
     : QObject(field), field_(field), commit_(std::move(commit)), settled_(field->text()) {
   edits.add(this);
   field->installEventFilter(this);
-  connect(field, &QLineEdit::textEdited, this, [this](const QString& text) {
+  connect(field, &QLineEdit::textEdited, this, [this, note = std::move(note)](const QString& text) {
     text_ = text;
     typed_ = true;
+    note(text);
   });
   connect(field, &QLineEdit::returnPressed, this, &PendingEdit::returnPressed);
 }

@@ -30,8 +30,10 @@ class PendingEdit : public QObject {
   Q_OBJECT
 
  public:
-  /// `commit` gets the text as it was typed.
-  PendingEdit(QLineEdit* field, Edits& edits, std::function<void(const QString&)> commit);
+  using Taker = std::function<void(const QString&)>;
+
+  /// `note` gets the text while it is being typed, `commit` when that has ended.
+  PendingEdit(QLineEdit* field, Edits& edits, Taker note, Taker commit);
 
   /// What the field holds now is what the state says.
   void settle();
@@ -46,7 +48,7 @@ class PendingEdit : public QObject {
   void returnPressed();
 
   QLineEdit* field_;
-  std::function<void(const QString&)> commit_;
+  Taker commit_;
   QString settled_;
   QString text_;  // as typed: a completion that was only looked at does not count
   bool typed_ = false;

@@ -68,6 +68,28 @@ void addHeading(QFormLayout* form, const QString& text) {
   form->addRow(heading);
 }
 
+// What only helps to find faults in this program: small and at the foot.
+QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
+  auto* const row = new QHBoxLayout;
+  auto* const label = controls.statusLine(volumes.loCalDebug);
+  label->setMinimumHeight(0);
+  QWidget* const widgets[] = {
+      label,
+      controls.checkBox(volumes.ronMode, tr("Read the local l&ist"),
+                        tr("For finding faults in this program: the table shows the second of two "
+                           "equal lists. You see no difference.")),
+      controls.pushButton(volumes.sheetCreate, tr("Tr&y the save panel…"),
+                          tr("For finding faults in this program: shows a panel and writes the "
+                             "chosen place to standard output. Nothing is made."))};
+  for (QWidget* const widget : widgets) {
+    QFont small = widget->font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    widget->setFont(small);
+    row->addWidget(widget, widget == label ? 1 : 0);
+  }
+  return row;
+}
+
 }  // namespace
 
 QWidget* volumesPage(Controls& controls, editor::ViewController& controller,
@@ -82,11 +104,14 @@ QWidget* volumesPage(Controls& controls, editor::ViewController& controller,
   title->setBuddy(table);
 
   auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(controls.pushButton(volumes.browseFile, tr("&Add…"),
-                                         tr("Adds image files to the list.")));
+  buttons->addWidget(
+      controls.pushButton(volumes.browseFile, tr("&Add…"), tr("Adds image files to the list.")));
   buttons->addWidget(
       controls.pushButton(volumes.removeVol, tr("Remo&ve"),
                           tr("Takes the selected image off the list. The file stays.")));
+  buttons->addWidget(
+      controls.pushButton(controller.bitCreate, tr("New &Blank Image…"),
+                          tr("Makes an empty disk image. It is not added to the list.")));
   buttons->addStretch();
 
   auto* const form = new QFormLayout;
@@ -99,6 +124,7 @@ QWidget* volumesPage(Controls& controls, editor::ViewController& controller,
   layout->addWidget(table, 1);
   layout->addLayout(buttons);
   layout->addLayout(form);
+  layout->addLayout(diagnosticsRow(controls, volumes));
   return page;
 }
 
@@ -113,13 +139,15 @@ QWidget* scsiPage(Controls& controls, editor::ViewController& controller) {
 QWidget* machinePage(Controls& controls, editor::ViewController& controller) {
   editor::MachineGroup& machine = controller.machine;
   const Page page;
-  addRow(page.form, tr("&ROM file:"), field(controls, machine.romFile),
-         controls.pushButton(machine.browseROM.button, tr("Bro&wse…"), tr("Chooses the ROM file.")));
+  addRow(
+      page.form, tr("&ROM file:"), field(controls, machine.romFile),
+      controls.pushButton(machine.browseROM.button, tr("Bro&wse…"), tr("Chooses the ROM file.")));
   addRow(page.form, tr("&Boot drive:"), choice(controls, machine.stateStart));
   addRow(page.form, tr("RA&M size (MB):"), combo(controls, machine.ramSizeMB));
   addRow(page.form, tr("M&odel:"), choice(controls, machine.modelID));
   addRow(page.form, tr("Processor (CP&U):"), choice(controls, machine.cpuType));
-  page.form->addRow(QString(), check(controls, machine.stateCDROM, tr("&Disable the CD-ROM drive")));
+  page.form->addRow(QString(),
+                    check(controls, machine.stateCDROM, tr("&Disable the CD-ROM drive")));
   return page.widget;
 }
 
@@ -155,9 +183,14 @@ QWidget* soundPage(Controls& controls, editor::ViewController& controller) {
 QWidget* networkPage(Controls& controls, editor::ViewController& controller) {
   editor::NetworkGroup& network = controller.network;
   const Page page;
-  addRow(page.form, tr("&Modem port:"), combo(controls, network.modemPort));
-  addRow(page.form, tr("P&rinter port:"), combo(controls, network.printerPort));
-  addRow(page.form, tr("Network &device:"), combo(controls, network.etherPort));
+  const auto wide = [&](editor::ComboBoxSetting& setting) {
+    QComboBox* const box = controls.comboBox(setting.box, helpOf(setting.key()));
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return box;
+  };
+  addRow(page.form, tr("&Modem port:"), wide(network.modemPort));
+  addRow(page.form, tr("P&rinter port:"), wide(network.printerPort));
+  addRow(page.form, tr("Network &device:"), wide(network.etherPort));
   page.form->addRow(QString(),
                     check(controls, network.tunnelUDP, tr("Tunnel the net&work over UDP")));
   addRow(page.form, tr("&UDP port:"), steps(controls, network.portUDP));
@@ -169,10 +202,11 @@ QWidget* jitPage(Controls& controls, editor::ViewController& controller) {
   const Page page;
   addHeading(page.form, tr("Just-in-time compiler"));
   page.form->addRow(QString(), check(controls, jit.enableJIT, tr("Enable the &JIT compiler")));
-  page.form->addRow(
-      QString(), check(controls, jit.compileFPU, tr("Compile floating-point instr&uctions")));
+  page.form->addRow(QString(),
+                    check(controls, jit.compileFPU, tr("Compile floating-point instr&uctions")));
   addRow(page.form, tr("Cache si&ze (KB):"), combo(controls, jit.jitCache));
-  page.form->addRow(QString(), check(controls, jit.lazyFlush, tr("Flush the cache la&gging behind")));
+  page.form->addRow(QString(),
+                    check(controls, jit.lazyFlush, tr("Flush the cache la&gging behind")));
   page.form->addRow(QString(), check(controls, jit.inlineBlocks, tr("Inline &blocks")));
   addHeading(page.form, tr("Processor emulation"));
   page.form->addRow(QString(), check(controls, jit.ignoreSegV, tr("Ignore &memory faults")));

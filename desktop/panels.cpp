@@ -68,11 +68,10 @@ void begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
   QFileDialog* const dialog = owned.release();
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowModality(modality);
-  QObject::connect(dialog, &QDialog::finished,
-                   [dialog, completion = std::move(completion)](int result) {
-                     completion(result == QDialog::Accepted ? locationsOf(*dialog)
-                                                            : std::vector<Location>());
-                   });
+  QObject::connect(
+      dialog, &QDialog::finished, [dialog, completion = std::move(completion)](int result) {
+        completion(result == QDialog::Accepted ? locationsOf(*dialog) : std::vector<Location>());
+      });
   dialog->show();
 }
 

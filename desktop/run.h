@@ -13,6 +13,7 @@ struct Surroundings {
   std::string configHome;
   platform::Bundle bundle;
   platform::Output& output;
+  const char* version;
 };
 
 /// Shows the settings window and returns, when the application ends, its exit status.

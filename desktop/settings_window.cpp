@@ -1,22 +1,27 @@
 #include "desktop/settings_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "desktop/agreement_sheet.h"
+#include "desktop/create_sheet.h"
 #include "desktop/pages.h"
+#include "desktop/preferences_window.h"
 #include "desktop/texts.h"
 
 namespace desktop {
 
-SettingsWindow::SettingsWindow(editor::ViewController& controller, Edits& edits,
-                               const QString& images)
-    : controller_(controller), controls_(edits), tabs_(new QTabWidget) {
+SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
+                               Edits& edits)
+    : controller_(controller), host_(host), controls_(edits), tabs_(new QTabWidget) {
   setObjectName(QLatin1String("settingsWindow"));
   setWindowTitle(tr("Quillon Settings"));
   tabs_->setObjectName(shown(controller.tabs.tabViewC.name()));
@@ -25,57 +30,39 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, Edits& edits,
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   layout->addWidget(tabs_, 1);
+  setCentralWidget(content);
+  buildPages();
+  buildMenus();
+  buildShortcuts();
   layout->addLayout(fileRow());
   layout->addLayout(buttonRow());
-  setCentralWidget(content);
-
-  buildPages(images);
-  buildMenus();
+  controller.bitCreate.action = [this] { openCreation(); };
   controller.tabs.tabViewC.attach([this] { showTabs(); });
   resize(720, 560);
   controller.viewWillAppear(delegate_);
 }
 
-SettingsWindow::~SettingsWindow() {
-  controller_.tabs.tabViewC.detach();
-  // A page that is not among the tabs belongs to nobody.
-  for (const auto& [view, page] : pages_) {
-    if (page->parentWidget() == nullptr) {
-      delete page;
-    }
-  }
-}
+SettingsWindow::~SettingsWindow() { controller_.tabs.tabViewC.detach(); }
 
-void SettingsWindow::buildPages(const QString& images) {
-  const auto scrolling = [](QWidget* page) {
+void SettingsWindow::buildPages() {
+  editor::Tabs& tabs = controller_.tabs;
+  const QString images = shown(host_.bundle.path() + "/Contents/Resources");
+  const auto add = [&](const char* identifier, QWidget* page) {
     auto* const area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setWidget(page);
-    return area;
+    // All pages once, so that they belong to the window in this order whether shown or not.
+    tabs_->addTab(area, QString());
+    pages_[tabs.view(identifier)] = area;
   };
-  const auto& items = controller_.tabs.tabViewC.items();
-  const auto& scsi = controller_.tabs.scsiTab->view;
-  pages_[scsi.get()] = scrolling(scsiPage(controls_, controller_));
-  for (const auto& item : items) {
-    QWidget* page = nullptr;
-    if (item->identifier == "volumesTab") {
-      page = volumesPage(controls_, controller_, images);
-    } else if (item->identifier == "machineTab") {
-      page = machinePage(controls_, controller_);
-    } else if (item->identifier == "displayTab") {
-      page = displayPage(controls_, controller_);
-    } else if (item->identifier == "soundTab") {
-      page = soundPage(controls_, controller_);
-    } else if (item->identifier == "networkTab") {
-      page = networkPage(controls_, controller_);
-    } else if (item->identifier == "jitTab") {
-      page = jitPage(controls_, controller_);
-    } else {
-      continue;
-    }
-    pages_[item->view.get()] = scrolling(page);
-  }
+  add("volumesTab", volumesPage(controls_, controller_, images));
+  add("scsiTab", scsiPage(controls_, controller_));
+  add("machineTab", machinePage(controls_, controller_));
+  add("displayTab", displayPage(controls_, controller_));
+  add("soundTab", soundPage(controls_, controller_));
+  add("networkTab", networkPage(controls_, controller_));
+  add("jitTab", jitPage(controls_, controller_));
 }
 
 void SettingsWindow::showTabs() {
@@ -93,9 +80,9 @@ void SettingsWindow::showTabs() {
 
 QLayout* SettingsWindow::fileRow() {
   auto* const row = new QHBoxLayout;
-  const QString help = tr(
-      "The preferences file that Save and Start write. Type another place to save to before the "
-      "first save.");
+  const QString help =
+      tr("The preferences file that Save and Start write. Type another place to save to before the "
+         "first save.");
   auto* const field = controls_.lineEdit(controller_.filename_field, help);
   field->setPlaceholderText(controller_.preferences.prefsURL
                                 ? shown(controller_.preferences.prefsURL->path())
@@ -114,44 +101,110 @@ QLayout* SettingsWindow::fileRow() {
 
 QLayout* SettingsWindow::buttonRow() {
   auto* const row = new QHBoxLayout;
+  auto* const preferences = new QPushButton(tr("Prefere&nces…"));
+  preferences->setObjectName(QLatin1String("openPreferences"));
+  preferences->setToolTip(tr("Where Quillon is, and how this program behaves."));
+  connect(preferences, &QPushButton::clicked, this, &SettingsWindow::openPreferences);
+  QPushButton* const start = controls_.pushButton(controller_.startQuil, tr("S&tart"), QString());
+  controller_.startQuil.attach([this, start] { showStart(start); });
+  row->addWidget(preferences);
   row->addStretch();
-  row->addWidget(controls_.pushButton(controller_.savePrefs, tr("&Save"),
-                                      tr("Writes the preferences file.")));
-  row->addWidget(controls_.pushButton(controller_.startQuil, tr("S&tart"),
-                                      tr("Writes the preferences file and starts Quillon.")));
+  row->addWidget(
+      controls_.pushButton(controller_.savePrefs, tr("&Save"), tr("Writes the preferences file.")));
+  row->addWidget(start);
   row->addWidget(controls_.pushButton(controller_.isQuit, tr("&Quit"),
                                       tr("Ends the program without saving.")));
   return row;
 }
 
+void SettingsWindow::showStart(QPushButton* button) {
+  const bool enabled = controller_.startQuil.isEnabled();
+  const QString help =
+      enabled ? tr("Writes the preferences file and starts Quillon.")
+              : tr("Start is disabled: choose where Quillon is in Edit > Preferences.");
+  button->setEnabled(enabled);
+  start_->setEnabled(enabled);
+  describe(button, controller_.startQuil, help);
+}
+
 void SettingsWindow::buildMenus() {
-  const auto add = [this](QMenu* menu, platform::Button& button, const QString& text,
-                          const QKeySequence& keys) {
+  const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto action) {
     auto* const entry = new QAction(text, menu);
     entry->setShortcut(keys);
-    entry->setEnabled(button.isEnabled());
-    connect(entry, &QAction::triggered, this, [this, &button] {
-      controls_.edits().endEditing();
-      if (button.isEnabled()) {
-        button.sendAction();
-      }
-    });
+    connect(entry, &QAction::triggered, this, action);
     menu->addAction(entry);
+    return entry;
   };
+  const auto addButton = [&](QMenu* menu, platform::Button& button, const QString& text,
+                             const QKeySequence& keys) {
+    return add(menu, text, keys, [this, &button] {
+      controls_.edits().endEditing();
+      button.sendAction();
+    });
+  };
+  volumes::VolumeTable& volumes = controller_.volumes;
+
   QMenu* const file = menuBar()->addMenu(tr("&File"));
-  add(file, controller_.savePrefs, tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
-  add(file, controller_.startQuil, tr("S&tart"), QKeySequence(Qt::CTRL | Qt::Key_Return));
+  addButton(file, controller_.savePrefs, tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
+  start_ =
+      addButton(file, controller_.startQuil, tr("S&tart"), QKeySequence(Qt::CTRL | Qt::Key_Return));
   file->addSeparator();
-  add(file, controller_.volumes.browseFile, tr("&Add Volume…"), QKeySequence(Qt::CTRL | Qt::Key_O));
+  addButton(file, controller_.bitCreate, tr("&New Blank Image…"),
+            QKeySequence(Qt::CTRL | Qt::Key_N));
+  addButton(file, volumes.browseFile, tr("&Add Volume…"), QKeySequence(Qt::CTRL | Qt::Key_O));
   file->addSeparator();
-  add(file, controller_.isQuit, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+  addButton(file, controller_.isQuit, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+
+  QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
+  add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
+      [this] { openPreferences(); });
 
   QMenu* const presets = menuBar()->addMenu(tr("&Presets"));
+  presets->setObjectName(QLatin1String("presetsMenu"));
   for (platform::Button& item : controller_.presets.presetsMenu) {
-    QAction* const entry = controls_.menuEntry(item, shown(item.title()), presets);
-    entry->setCheckable(true);
-    presets->addAction(entry);
+    presets->addAction(controls_.menuEntry(item, shown(item.title()), presets));
   }
+
+  QMenu* const help = menuBar()->addMenu(tr("&Help"));
+  add(help, tr("&Beta Agreement…"), {}, [this] { openAgreement(); });
+  add(help, tr("&About Quillon Settings"), {}, [this] { tellAbout(); });
+}
+
+void SettingsWindow::buildShortcuts() {
+  for (int number = 1; number <= static_cast<int>(pages_.size()); ++number) {
+    auto* const shortcut = new QShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number), this);
+    connect(shortcut, &QShortcut::activated, this, [this, number] {
+      if (number <= tabs_->count()) {
+        tabs_->setCurrentIndex(number - 1);
+        tabs_->tabBar()->setFocus(Qt::ShortcutFocusReason);
+      }
+    });
+  }
+}
+
+void SettingsWindow::openPreferences() {
+  if (preferences_ == nullptr) {
+    preferences_ = new PreferencesWindow(host_, controls_.edits(), this);
+  }
+  preferences_->show();
+  preferences_->raise();
+  preferences_->activateWindow();
+}
+
+void SettingsWindow::openAgreement() {
+  (new AgreementSheet(host_, controls_.edits(), this))->open();
+}
+
+void SettingsWindow::openCreation() {
+  (new CreateSheet(host_.output, controls_.edits(), this))->open();
+}
+
+void SettingsWindow::tellAbout() {
+  QMessageBox::about(this, tr("About Quillon Settings"),
+                     tr("<p><b>Quillon Settings %1</b></p>"
+                        "<p>Sets up Quillon, an emulator of 68k Macintosh computers, and starts "
+                        "it.</p>")
+                         .arg(QApplication::applicationVersion()));
 }
 
 void SettingsWindow::closeEvent(QCloseEvent* event) {

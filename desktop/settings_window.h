@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTabWidget>
 #include <map>
 
 #include "desktop/controls.h"
 #include "editor/view_controller.h"
-#include "platform/application.h"
+#include "platform/host.h"
 
 namespace desktop {
 
@@ -15,8 +16,7 @@ class SettingsWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `images` is the folder with the pictures.
-  SettingsWindow(editor::ViewController& controller, Edits& edits, const QString& images);
+  SettingsWindow(editor::ViewController& controller, const platform::Host& host, Edits& edits);
   ~SettingsWindow() override;
   SettingsWindow(const SettingsWindow&) = delete;
   SettingsWindow& operator=(const SettingsWindow&) = delete;
@@ -25,16 +25,25 @@ class SettingsWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void buildPages(const QString& images);
+  void buildPages();
   void buildMenus();
+  void buildShortcuts();
   [[nodiscard]] QLayout* fileRow();
   [[nodiscard]] QLayout* buttonRow();
   void showTabs();
+  void showStart(QPushButton* button);
+  void openPreferences();
+  void openAgreement();
+  void openCreation();
+  void tellAbout();
 
   editor::ViewController& controller_;
+  platform::Host host_;
   Controls controls_;
   platform::Window delegate_;
   QTabWidget* tabs_;
+  QAction* start_ = nullptr;
+  QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;
 };
 

@@ -49,7 +49,8 @@ void VolumeView::showState() {
     const int current = currentIndex().row();
     model_.reload();
     const auto selected = table.selectedRow();
-    const int row = selected ? static_cast<int>(*selected) : std::min(current, model_.rowCount() - 1);
+    const int row =
+        selected ? static_cast<int>(*selected) : std::min(current, model_.rowCount() - 1);
     selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
   }
   QItemSelection selection;

@@ -80,8 +80,7 @@ void ScreenSetting::split() {
   }
 }
 
-void ScreenSetting::fillSize(Part part, platform::ComboBox& box,
-                             std::vector<std::string>& sizes) {
+void ScreenSetting::fillSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
   const std::string& size = screensep_[part];
   auto found = std::find(sizes.begin(), sizes.end(), size);
   if (found == sizes.end() && size == maximumValue) {
@@ -100,8 +99,7 @@ void ScreenSetting::videoType() {
   print(screensep_[type]);
 }
 
-void ScreenSetting::editSize(Part part, platform::ComboBox& box,
-                             std::vector<std::string>& sizes) {
+void ScreenSetting::editSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
   const auto index = box.indexOfSelectedItem();
   if (!index) {
     screensep_[part] = box.stringValue();
@@ -130,9 +128,8 @@ RefreshRateSetting::RefreshRateSetting(ControlGroup& group)
 
 void RefreshRateSetting::fill() {
   const auto frameskip = platform::parseInt64(value());
-  const auto* const rate = std::find_if(rates.begin(), rates.end(), [&](const Rate& known) {
-    return known.frameskip == frameskip;
-  });
+  const auto* const rate = std::find_if(
+      rates.begin(), rates.end(), [&](const Rate& known) { return known.frameskip == frameskip; });
   const auto position = static_cast<std::size_t>(rate - rates.begin());
   if (rate == rates.end()) {
     fileValue_ = value();

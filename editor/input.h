@@ -36,18 +36,22 @@ class InputGroup : public ControlGroup {
  public:
   using ControlGroup::ControlGroup;
 
-  CheckBoxSetting disableSound{*this, Key::nosound, CheckBoxSetting::Echo::state,
+  CheckBoxSetting disableSound{*this,
+                               Key::nosound,
+                               CheckBoxSetting::Echo::state,
                                {.form = Announcement::Form::value, .label = "noaudio :"}};
   Setting keyboardtype{*this, Key::keyboardtype, {.form = Announcement::Form::line}};
-  TextFieldSetting rawKeyFile{*this, Key::keycodefile,
+  TextFieldSetting rawKeyFile{*this,
+                              Key::keycodefile,
                               {.heading = Announcement::Heading::keyText,
                                .form = Announcement::Form::matches,
                                .label = "results10: "}};
   RawKeysSetting rawKeys{*this, rawKeyFile};
   FileButton rawKeyFileSelect{"rawKeyFileSelect", rawKeyFile, panels};
   MouseWheelSetting mouseWheel{*this};
-  StepperSetting mouseScroll{*this, Key::mousewheellines, "mouseScrollLvl", {1, 100},
-                             "scrollLvl: ", {.heading = Announcement::Heading::index}};
+  StepperSetting mouseScroll{
+      *this,    Key::mousewheellines, "mouseScrollLvl",
+      {1, 100}, "scrollLvl: ",        {.heading = Announcement::Heading::index}};
   TextFieldSetting audioOut{*this, Key::dsp, {.heading = Announcement::Heading::keyText}};
   TextFieldSetting audioMix{*this, Key::mixer, {.heading = Announcement::Heading::keyText}};
 };

@@ -37,10 +37,12 @@ class JitGroup : public ControlGroup {
   JitCacheSetting jitCache{*this};
   CheckBoxSetting lazyFlush{*this, Key::jitlazyflush, Echo::truth};
   CheckBoxSetting inlineBlocks{*this, Key::jitinline, Echo::truth};
-  CheckBoxSetting ignoreSegV{*this, Key::ignoresegv, Echo::state,
+  CheckBoxSetting ignoreSegV{*this,
+                             Key::ignoresegv,
+                             Echo::state,
                              {.form = Announcement::Form::value, .label = "ignoresegv :"}};
-  CheckBoxSetting dontUseCPU{*this, Key::idlewait, Echo::state,
-                             {.form = Announcement::Form::value, .label = "idle :"}};
+  CheckBoxSetting dontUseCPU{
+      *this, Key::idlewait, Echo::state, {.form = Announcement::Form::value, .label = "idle :"}};
 };
 
 }  // namespace editor

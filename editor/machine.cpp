@@ -24,14 +24,15 @@ constexpr std::array<Processor, 5> processors = {
     {{"2", "false"}, {"2", "true"}, {"3", "false"}, {"3", "true"}, {"4", "true"}}};
 
 std::string memoryText(std::int64_t bytes) {
-  constexpr platform::ByteCountFormatter formatter{
-      platform::ByteCountFormatter::CountStyle::memory, false};
+  constexpr platform::ByteCountFormatter formatter{platform::ByteCountFormatter::CountStyle::memory,
+                                                   false};
   return formatter.stringFromByteCount(bytes);
 }
 
 std::optional<std::int64_t> bytesOf(std::string_view megabytes) {
   const auto count = platform::parseInt64(megabytes);
-  if (!count || *count < 1 || *count > std::numeric_limits<std::int64_t>::max() / bytesPerMegabyte) {
+  if (!count || *count < 1 ||
+      *count > std::numeric_limits<std::int64_t>::max() / bytesPerMegabyte) {
     return std::nullopt;
   }
   return *count * bytesPerMegabyte;
@@ -164,10 +165,9 @@ void ProcessorSetting::fill() {
     return;
   }
   // A pair that stands in no row leaves the button as it is.
-  const auto found =
-      std::find_if(processors.begin(), processors.end(), [&](const Processor& processor) {
-        return processor.cpu == cpu && processor.fpu == value();
-      });
+  const auto found = std::find_if(
+      processors.begin(), processors.end(),
+      [&](const Processor& processor) { return processor.cpu == cpu && processor.fpu == value(); });
   if (found != processors.end()) {
     button.selectItem(static_cast<std::size_t>(found - processors.begin()));
   }

@@ -87,7 +87,9 @@ class MachineGroup : public ControlGroup {
   ModelSetting modelID{*this};
   Setting cpu{*this, Key::cpu, {.form = Announcement::Form::value}};
   ProcessorSetting cpuType{*this};
-  CheckBoxSetting stateCDROM{*this, Key::nocdrom, CheckBoxSetting::Echo::stateOnOff,
+  CheckBoxSetting stateCDROM{*this,
+                             Key::nocdrom,
+                             CheckBoxSetting::Echo::stateOnOff,
                              {.form = Announcement::Form::optional, .label = "nocdrom: "}};
 };
 

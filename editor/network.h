@@ -31,12 +31,14 @@ class NetworkGroup : public ControlGroup {
   PortSetting modemPort{*this, Key::seriala};
   PortSetting printerPort{*this, Key::serialb, PortSetting::Echo::optionalAndValue};
   PortSetting etherPort{*this, Key::ether};
-  CheckBoxSetting tunnelUDP{*this, Key::udptunnel, CheckBoxSetting::Echo::state,
+  CheckBoxSetting tunnelUDP{*this,
+                            Key::udptunnel,
+                            CheckBoxSetting::Echo::state,
                             {.heading = Announcement::Heading::keyText,
                              .form = Announcement::Form::optional,
                              .label = "udptunnel :"}};
-  StepperSetting portUDP{*this, Key::udpport, "portStep", {1, 65535}, "UDP: ",
-                         {.heading = Announcement::Heading::keyText}};
+  StepperSetting portUDP{*this,      Key::udpport, "portStep",
+                         {1, 65535}, "UDP: ",      {.heading = Announcement::Heading::keyText}};
 };
 
 }  // namespace editor

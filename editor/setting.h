@@ -56,10 +56,10 @@ struct Announcement {
     matches,   // "label" and the list of lines that contain the key text
   };
 
-  Heading heading = Heading::none;         // before the lookup
-  std::string_view found = "results: ";    // the lookup's own label
-  Form form = Form::none;                  // after the lookup
-  std::string_view label{};                // after the lookup
+  Heading heading = Heading::none;       // before the lookup
+  std::string_view found = "results: ";  // the lookup's own label
+  Form form = Form::none;                // after the lookup
+  std::string_view label{};              // after the lookup
 };
 
 /// The place of one key in the window. This class itself carries a key through that has no control.

@@ -9,8 +9,7 @@
 
 namespace editor {
 
-CheckBoxSetting::CheckBoxSetting(ControlGroup& group, Key key, Echo echo,
-                                 Announcement announcement)
+CheckBoxSetting::CheckBoxSetting(ControlGroup& group, Key key, Echo echo, Announcement announcement)
     : Setting(group, key, announcement), box(outletOf(key)), echo_(echo) {
   box.action = [this] { clicked(); };
 }

@@ -1,5 +1,6 @@
 #include "editor/tabs.h"
 
+#include <algorithm>
 #include <array>
 
 #include "app/shared_var.h"
@@ -30,17 +31,23 @@ constexpr std::array<Tab, allTabs> tabs = {{{"volumesTab", "Volumes"},
 
 Tabs::Tabs() {
   for (const Tab& tab : tabs) {
-    auto view = std::make_shared<platform::View>(platform::View{tab.identifier});
+    views_.push_back(std::make_shared<platform::View>(platform::View{tab.identifier}));
     tabViewC.addTabViewItem(std::make_shared<platform::TabViewItem>(
-        platform::TabViewItem{tab.identifier, tab.label, std::move(view)}));
+        platform::TabViewItem{tab.identifier, tab.label, views_.back()}));
   }
   scsiTab = tabViewC.items()[scsiIndex];
-  scsiView_ = scsiTab->view;
+}
+
+const platform::View* Tabs::view(std::string_view identifier) const {
+  const auto found = std::find_if(views_.begin(), views_.end(), [&](const auto& candidate) {
+    return candidate->name == identifier;
+  });
+  return found != views_.end() ? found->get() : nullptr;
 }
 
 void Tabs::prepareScsiTab() {
   // A view can change its tab without a copy here: the one that there is stands in for it.
-  sharedVar::newScsiTab = scsiView_;
+  sharedVar::newScsiTab = views_[scsiIndex];
   if (!sharedVar::scsiTabState) {
     tabViewC.removeTabViewItem(scsiTab);
   }
@@ -52,9 +59,8 @@ void Tabs::updateScsiTab() {
   if (count == allTabs && !sharedVar::scsiTabState) {
     tabViewC.removeTabViewItem(scsiTab);
   } else if (count == allButScsi && sharedVar::scsiTabState) {
-    scsiTab = std::make_shared<platform::TabViewItem>(
-        platform::TabViewItem{tabs[scsiIndex].identifier, tabs[scsiIndex].label,
-                              sharedVar::newScsiTab});
+    scsiTab = std::make_shared<platform::TabViewItem>(platform::TabViewItem{
+        tabs[scsiIndex].identifier, tabs[scsiIndex].label, sharedVar::newScsiTab});
     tabViewC.insertTabViewItem(scsiTab, scsiIndex);
   }
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
+#include <vector>
 
 #include "platform/control.h"
 #include "platform/tab_view.h"
@@ -17,6 +19,9 @@ class Tabs {
   std::shared_ptr<platform::TabViewItem> scsiTab;
   platform::Button scsiID0{"scsiID0"};
 
+  /// The content of a tab, which stays the same when the tab goes and comes back.
+  [[nodiscard]] const platform::View* view(std::string_view identifier) const;
+
   /// Brings the tab in line with `sharedVar` for the first time.
   void prepareScsiTab();
 
@@ -24,7 +29,7 @@ class Tabs {
   void updateScsiTab();
 
  private:
-  std::shared_ptr<platform::View> scsiView_;
+  std::vector<std::shared_ptr<platform::View>> views_;  // of all tabs, shown or not
 };
 
 }  // namespace editor

@@ -79,10 +79,9 @@ bool ViewController::save(std::string_view finalMessage) {
   return preferences.save(volumes.volumes().paths(), finalMessage);
 }
 
-bool ViewController::saveAndLaunch() {
+StartResult ViewController::saveAndLaunch() {
   const bool saved = savePrefsAny();
-  const bool launched = host_.workspace.launchApplication(sharedVar::pathToQuil);
-  return saved && launched;
+  return {saved, host_.workspace.launchApplication(sharedVar::pathToQuil)};
 }
 
 void ViewController::startButton() {

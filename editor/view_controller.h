@@ -18,6 +18,12 @@
 
 namespace editor {
 
+/// How the two halves of a start went.
+struct StartResult {
+  bool saved;
+  bool launched;
+};
+
 /// The settings window: owns the document, the volumes and the control groups, fills them at
 /// start-up and writes them back.
 class ViewController {
@@ -34,9 +40,8 @@ class ViewController {
   /// Saves as Start does; returns whether the file was written.
   bool savePrefsAny();
 
-  /// Saves and launches the emulator. Returns whether both went well, for who asks without looking
-  /// at the window.
-  bool saveAndLaunch();
+  /// Saves and launches the emulator, whether or not the save went well.
+  StartResult saveAndLaunch();
 
   document::Preferences preferences;
   volumes::VolumeTable volumes;
@@ -49,6 +54,7 @@ class ViewController {
   Presets presets;
   Tabs tabs;
 
+  platform::Button bitCreate{"bitCreate"};  // the window decides what it opens
   platform::TextField filename_field{"filename_field"};
   platform::Button copyPrefs{"copyPrefs"};
   platform::Button savePrefs{"savePrefs"};

@@ -49,7 +49,7 @@ std::string ByteCountFormatter::stringFromByteCount(std::int64_t bytes) const {
   std::uint64_t divisor = 1;
   Wide hundredths = hundredthsOf(magnitude, divisor, units[unit].hundredths);
   // A count that rounds to a whole next unit is written in that one.
-  while (hundredths >= base * 100 && unit + 1 < units.size()) {
+  while (hundredths >= Wide(base) * 100 && unit + 1 < units.size()) {
     ++unit;
     divisor *= base;
     hundredths = hundredthsOf(magnitude, divisor, units[unit].hundredths);

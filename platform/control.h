@@ -37,14 +37,18 @@ class Control {
   }
   void detach() { show_ = nullptr; }
 
-  /// Does what the user did: `write` puts it into the state, then the action runs.
+  /// Notes what the user is doing: `write` puts it into the state, from which it came.
+  template <typename Write>
+  void note(Write write) {
+    auto hidden = std::exchange(show_, nullptr);
+    write();
+    show_ = std::move(hidden);
+  }
+
+  /// Does what the user did: it is noted, then the action runs.
   template <typename Write>
   void edit(Write write) {
-    {
-      auto hidden = std::exchange(show_, nullptr);
-      write();
-      show_ = std::move(hidden);
-    }
+    note(write);
     sendAction();
   }
 

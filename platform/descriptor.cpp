@@ -17,8 +17,9 @@ Descriptor Descriptor::openRegular(const std::string& path, int flags, std::erro
     return Descriptor();
   }
   constexpr mode_t newFileMode = 0666;  // less what the user's umask takes away
-  Descriptor opened(retried(
-      [&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, newFileMode); }));
+  Descriptor opened(retried([&] {
+    return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, newFileMode);
+  }));
   struct stat status {};
   if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0) {
     error = lastError();

@@ -131,10 +131,8 @@ std::error_code createFile(const std::string& path, std::string_view content) {
     error = closing;
   }
   if (error) {
-    // An empty file would be read as one without settings: none at all is better. A link that led
-    // to nothing stays.
-    std::error_code ignored;
-    std::filesystem::remove(std::filesystem::canonical(path, ignored), ignored);
+    // An empty file would be read as one without settings: none at all is better.
+    removeFile(path);
   }
   return error;
 }
@@ -191,6 +189,11 @@ std::error_code writeFile(const std::string& path, std::string_view content) {
     return error;
   }
   return file.close();
+}
+
+void removeFile(const std::string& path) {
+  std::error_code ignored;
+  std::filesystem::remove(std::filesystem::canonical(path, ignored), ignored);
 }
 
 std::error_code copyFile(const std::string& from, const std::string& to) {

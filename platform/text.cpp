@@ -36,8 +36,8 @@ struct CodePoint {
 CodePoint firstCodePoint(std::string_view text) {
   CodePoint first{-1, 1};
   const auto size = static_cast<utf8proc_ssize_t>(std::min<std::size_t>(text.size(), 4));
-  const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()), size,
-                                       &first.value);
+  const auto length =
+      utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()), size, &first.value);
   if (length > 0) {
     first.length = static_cast<std::size_t>(length);
   }

@@ -46,8 +46,9 @@ void reportFailure(const Start& start) {
 }
 
 [[noreturn]] void runApplication(const Start& start) {
-  // A broken pipe must not end us, yet ends most programs: an ignored signal would be inherited.
+  // What must not end us ends most programs: an ignored signal would be inherited.
   ::signal(SIGPIPE, SIG_DFL);  // NOLINT(cert-err33-c): there is nobody to tell
+  ::signal(SIGXFSZ, SIG_DFL);  // NOLINT(cert-err33-c)
   const int input = ::open("/dev/null", O_RDONLY);
   if (input > 0) {
     ::dup2(input, STDIN_FILENO);
@@ -73,6 +74,7 @@ bool startDetached(std::vector<std::string> command, const std::string& folder) 
     return false;
   }
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (std::string& word : command) {
     arguments.push_back(word.data());
   }

@@ -20,8 +20,7 @@ class Workspace {
 class ProcessWorkspace : public Workspace {
  public:
   /// `homeDirectory` becomes the working directory of what is started.
-  explicit ProcessWorkspace(std::string homeDirectory)
-      : homeDirectory_(std::move(homeDirectory)) {}
+  explicit ProcessWorkspace(std::string homeDirectory) : homeDirectory_(std::move(homeDirectory)) {}
 
   /// `path` names an application bundle or an executable file. No shell and no search path is
   /// involved. The application gets a session of its own, the null device as standard input, our

@@ -53,7 +53,8 @@ std::optional<platform::TableCell> VolumeTable::viewFor(std::optional<std::size_
   }
   if (column == sizeColumn) {
     return platform::TableCell{
-        "SizeCell", platform::ByteCountFormatter().stringFromByteCount(volumes_.volSize()[row]),
+        "SizeCell",
+        platform::ByteCountFormatter().stringFromByteCount(volumes_.volSize()[row]),
         {}};
   }
   if (column == kindColumn) {
@@ -100,8 +101,9 @@ void VolumeTable::chooseFiles() {
   panel.title = "Select a volume";
   panel.canCreateDirectories = true;
   panel.allowsMultipleSelection = true;
-  panel.allowedFileTypes = {"img",    "dmg",  "dsk", "image", "cdr", "iso",  "toast", "sparsebundle",
-                            "sparse", "dc42", "hfv", "hvf",   "hfs", "ndif", "dk*",   "cue"};
+  panel.allowedFileTypes = {"img",   "dmg",          "dsk",    "image", "cdr", "iso",
+                            "toast", "sparsebundle", "sparse", "dc42",  "hfv", "hvf",
+                            "hfs",   "ndif",         "dk*",    "cue"};
   panels_.beginSheet(panel, [this](const std::vector<platform::Location>& chosen) {
     if (!chosen.empty()) {
       result_ = chosen;

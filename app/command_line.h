@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace app {
+
+/// What the program was asked to do.
+struct CommandLine {
+  enum class Task { showWindow, start, help, version, refuse };
+
+  Task task = Task::showWindow;
+  std::string refused;  // the argument that nobody knows
+};
+
+CommandLine parseCommandLine(int argc, const char* const* argv);
+
+/// What --help prints.
+std::string usage();
+
+}  // namespace app

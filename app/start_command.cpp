@@ -1,0 +1,60 @@
+#include "app/start_command.h"
+
+#include <iostream>
+#include <string>
+
+#include "app/shared_var.h"
+#include "editor/view_controller.h"
+#include "platform/host.h"
+
+namespace app {
+namespace {
+
+// Nothing can be typed or chosen where nothing is shown.
+class NoApplication : public platform::Application {
+ public:
+  void terminate() override {}
+  void exitNow() override {}
+  void makeFirstResponder(platform::TextField& /*field*/) override {}
+};
+
+class NoPanels : public platform::Panels {
+ public:
+  std::vector<platform::Location> runModal(const platform::OpenPanel& /*panel*/) override {
+    return {};
+  }
+  void begin(const platform::OpenPanel& /*panel*/, Chosen /*completion*/) override {}
+  void beginSheet(const platform::OpenPanel& /*panel*/, Chosen /*completion*/) override {}
+  void beginSheet(const platform::SavePanel& /*panel*/, Chosen /*completion*/) override {}
+};
+
+int fail(const std::string& reason) {
+  std::cerr << "quillon-settings: " << reason << std::endl;
+  return 1;
+}
+
+}  // namespace
+
+int startWithoutWindow(const std::string& homeDirectory, const std::string& configHome,
+                       const platform::Bundle& bundle, platform::Output& output) {
+  NoApplication application;
+  NoPanels panels;
+  platform::ProcessWorkspace workspace(homeDirectory);
+  platform::NotificationCenter notifications;
+  editor::ViewController controller(
+      {homeDirectory, configHome, bundle, output, panels, workspace, application, notifications});
+  controller.viewDidLoad();
+  if (!controller.startQuil.isEnabled()) {
+    return fail("Start is disabled; choose where Quillon is in the preferences");
+  }
+  const editor::StartResult result = controller.saveAndLaunch();
+  if (result.saved && result.launched) {
+    return 0;
+  }
+  return fail(result.launched ? "could not save the preferences file"
+              : result.saved
+                  ? "could not start " + sharedVar::pathToQuil
+                  : "could not save the preferences file, nor start " + sharedVar::pathToQuil);
+}
+
+}  // namespace app

@@ -1,0 +1,47 @@
+#include "desktop/agreement_sheet.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace desktop {
+
+AgreementSheet::AgreementSheet(const platform::Host& host, Edits& edits, QWidget* parent)
+    : QDialog(parent), controller_(host), controls_(edits) {
+  setObjectName(QLatin1String("agreementSheet"));
+  setWindowTitle(tr("Beta Agreement"));
+  setWindowModality(Qt::WindowModal);
+  setAttribute(Qt::WA_DeleteOnClose);
+
+  auto* const text = new QLabel(
+      tr("<p>This program is a beta version. It changes three things on this computer:</p>"
+         "<ul><li>Quillon's preferences file, when you press Save or Start;</li>"
+         "<li>its own settings, when you press Done in its preferences;</li>"
+         "<li>the disk images that you ask it to make.</li></ul>"
+         "<p>Keep a copy of what you cannot do without. Disagree ends the program at once, without "
+         "saving.</p>"));
+  text->setObjectName(QLatin1String("agreementText"));
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  QPushButton* const disagree = controls_.pushButton(
+      controller_.disAgree, tr("&Disagree"), tr("Ends the program at once, without saving."));
+  disagree->setAutoDefault(false);
+  buttons->addWidget(disagree);
+  QPushButton* const agree =
+      controls_.pushButton(controller_.Agree, tr("&Agree"), tr("Closes this sheet."));
+  agree->setDefault(true);
+  buttons->addWidget(agree);
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->addWidget(text);
+  layout->addLayout(buttons);
+  setMinimumWidth(420);
+
+  controller_.dismiss = [this] { close(); };
+  controller_.viewWillAppear();
+}
+
+}  // namespace desktop

@@ -1,0 +1,72 @@
+#include "desktop/preferences_window.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace desktop {
+
+PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, QWidget* parent)
+    : QDialog(parent), controller_(host), controls_(edits) {
+  setObjectName(QLatin1String("preferencesWindow"));
+  setWindowTitle(tr("Quillon Settings Preferences"));
+  setAttribute(Qt::WA_DeleteOnClose);
+
+  auto* const where = new QGroupBox(tr("Where Quillon is"));
+  auto* const modes = new QVBoxLayout(where);
+  modes->addWidget(controls_.radioButton(controller_.quilOff, tr("&Nowhere"),
+                                         tr("Start is disabled until a place is chosen.")));
+  modes->addWidget(controls_.radioButton(controller_.quilLocal, tr("&Beside this program"),
+                                         tr("Quillon.app in the folder of this program.")));
+  modes->addWidget(
+      controls_.radioButton(controller_.quilCustom, tr("&Somewhere else"),
+                            tr("The place named below. \"Quillon\" must be part of the name.")));
+  modes->addLayout(locationRow());
+
+  auto* const buttons = new QHBoxLayout;
+  QPushButton* const test = controls_.pushButton(controller_.testLaunch, tr("&Test"),
+                                                 tr("Starts what the location names, unchecked."));
+  // What is being typed is tried as it is and not committed before.
+  test->setFocusPolicy(Qt::TabFocus);
+  test->setAutoDefault(false);
+  QPushButton* const done =
+      controls_.pushButton(controller_.Done, tr("&Done"), tr("Applies and stores the choices."));
+  done->setAutoDefault(false);
+  buttons->addWidget(test);
+  buttons->addStretch();
+  buttons->addWidget(done);
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->addWidget(where);
+  layout->addWidget(controls_.checkBox(
+      controller_.SCSItab, tr("Show the SCS&I tab"),
+      tr("Whether the settings window has a tab for SCSI. It shows up with Done.")));
+  layout->addWidget(controls_.checkBox(controller_.quitOnStart, tr("&Quit after Start"),
+                                       tr("Ends this program once Quillon has been started.")));
+  layout->addStretch();
+  layout->addLayout(buttons);
+
+  controller_.dismiss = [this] { close(); };
+  controller_.viewWillAppear();
+  resize(sizeHint().expandedTo(QSize(480, 0)));
+}
+
+QLayout* PreferencesWindow::locationRow() {
+  auto* const row = new QHBoxLayout;
+  QLineEdit* const field = controls_.lineEdit(
+      controller_.Quillon,
+      tr("The application that Start launches. \"Quillon\" must be part of the name."));
+  field->setAccessibleName(tr("Location"));
+  auto* const label = new QLabel(tr("&Location:"));
+  label->setBuddy(field);
+  QPushButton* const choose = controls_.pushButton(controller_.chooseQuillon, tr("&Choose…"),
+                                                   tr("Chooses the application."));
+  choose->setAutoDefault(false);
+  row->addWidget(label);
+  row->addWidget(field, 1);
+  row->addWidget(choose);
+  return row;
+}
+
+}  // namespace desktop

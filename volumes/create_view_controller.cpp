@@ -1,0 +1,108 @@
+#include "volumes/create_view_controller.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+
+#include "app/shared_var.h"
+#include "platform/files.h"
+#include "platform/text.h"
+#include "volumes/blank_image.h"
+
+namespace volumes {
+namespace {
+
+using platform::TextColor;
+
+constexpr std::int64_t imageSizeConvert = 1048576;  // bytes per megabyte
+constexpr std::int64_t usualSize = 100;             // megabytes
+constexpr std::int64_t largestSize =
+    std::numeric_limits<std::int64_t>::max() / imageSizeConvert;  // megabytes
+constexpr const char* nameNeeded = "Status: You need to enter a name!";
+
+// The megabytes that a text asks for; none when they are more than can be counted.
+std::optional<std::int64_t> megabytesOf(std::string_view text) {
+  if (const auto number = platform::parseInt64(text)) {
+    return number;
+  }
+  const bool isSigned = text.starts_with('+') || text.starts_with('-');
+  const std::string_view digits = text.substr(isSigned ? 1 : 0);
+  const bool isNumber = !digits.empty() && std::all_of(digits.begin(), digits.end(),
+                                                       [](char c) { return c >= '0' && c <= '9'; });
+  return isNumber ? std::nullopt : std::optional(usualSize);
+}
+
+}  // namespace
+
+createViewController::createViewController(platform::Output& output) : output_(output) {
+  createImage.action = [this] { createAction(); };
+  createName.action = [this] { createNameAction(); };
+  startAnim.action = [this] { createProgressStatus.startAnimation(); };
+  stopAnim.action = [this] { createProgressStatus.stopAnimation(); };
+}
+
+void createViewController::viewWillAppear() {
+  output_.print("create loaded");
+  createProgressStatus.setUsesThreadedAnimation(true);
+  createStatus.setTextColor(TextColor::gray);
+  createImage.setTitle("Create");
+  donecreate_ = false;
+}
+
+void createViewController::refuse(const std::string& reason) {
+  createStatus.setTextColor(TextColor::red);
+  createStatus.setStringValue(reason);
+}
+
+std::optional<std::size_t> createViewController::chosenLength() {
+  const auto megabytes = megabytesOf(createSize.stringValue());
+  if (!megabytes || *megabytes < 0 || *megabytes > largestSize) {
+    return std::nullopt;
+  }
+  imageSize_ = *megabytes;
+  return static_cast<std::size_t>(imageSize_ * imageSizeConvert);
+}
+
+void createViewController::createAction() {
+  if (donecreate_) {
+    if (dismiss) {
+      dismiss();
+    }
+    return;
+  }
+  const std::string name = createName.stringValue() + ".dsk";
+  if (createName.stringValue().empty()) {
+    refuse(nameNeeded);
+    return;
+  }
+  createStatus.setStringValue("Status: Working...");
+  const auto length = chosenLength();
+  if (!length) {
+    refuse("Status: The size must be a number of megabytes from 0 to " +
+           std::to_string(largestSize) + "!");
+    return;
+  }
+  imageName_ = platform::withExistingFolder(app::sharedVar::pathToQuilRoot + name);
+  ZeroBuffer imageData;
+  std::error_code error = imageData.setLength(*length);
+  if (!error) {
+    error = writeImage(imageName_, imageData.bytes());
+  }
+  if (error) {
+    refuse("Status: Could not write '" + name + "': " + error.message());
+    return;
+  }
+  createStatus.setTextColor(TextColor::blue);
+  createStatus.setStringValue("Status: '" + name + "' - " + std::to_string(imageSize_) +
+                              " MB Done!");
+  donecreate_ = true;
+  createImage.setTitle("Done");
+}
+
+void createViewController::createNameAction() {
+  if (createName.stringValue().empty()) {
+    createStatus.setStringValue(nameNeeded);
+  }
+}
+
+}  // namespace volumes
