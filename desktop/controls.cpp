@@ -87,6 +87,10 @@ void describe(QWidget* widget, const platform::Control& control, const QString& 
   widget->setAccessibleDescription(help);
 }
 
+void deleteWidgets(QWidget& window) {
+  qDeleteAll(window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
 void guardWheel(QWidget* widget) {
   widget->setFocusPolicy(Qt::StrongFocus);
   widget->installEventFilter(new WheelGuard(widget));

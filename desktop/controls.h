@@ -57,6 +57,10 @@ QString helpOf(document::Key key);
 /// Sets what every widget has.
 void describe(QWidget* widget, const platform::Control& control, const QString& help);
 
+/// Deletes what is in a window. A window that owns its controller needs this in its destructor: the
+/// widgets must go before the controls that they show.
+void deleteWidgets(QWidget& window);
+
 /// Keeps the wheel from changing a widget on the way past: the page scrolls instead.
 void guardWheel(QWidget* widget);
 

@@ -58,8 +58,8 @@ QLayout* CreateSheet::progressRow() {
   const QString help = tr("Only moves the bar; making an image does not.");
   auto* const row = new QHBoxLayout;
   row->addWidget(controls_.progressBar(controller_.createProgressStatus), 1);
-  for (const auto& [button, text] : {std::pair(&controller_.startAnim, tr("S&pin")),
-                                     std::pair(&controller_.stopAnim, tr("S&till"))}) {
+  for (const auto& [button, text] : {std::pair(&controller_.startAnim, tr("&Animate")),
+                                     std::pair(&controller_.stopAnim, tr("S&top"))}) {
     QPushButton* const widget = controls_.pushButton(*button, text, help);
     widget->setAutoDefault(false);
     row->addWidget(widget);

@@ -29,6 +29,7 @@ constexpr std::array<Rate, 7> rates = {{{"Dynamic", 0},
 
 std::vector<std::string> rateTitles() {
   std::vector<std::string> titles;
+  titles.reserve(rates.size());
   for (const Rate& rate : rates) {
     titles.emplace_back(rate.title);
   }

@@ -124,7 +124,12 @@ void RamSizeSetting::ramSize() {
 void RamSizeSetting::typed(const std::string& text) {
   const auto bytes = bytesOf(text);
   if (!bytes) {
-    showStoredSize();
+    // In megabytes where the list has it so: as text for people, 1024 of them would be "1".
+    const auto stored = platform::parseInt64(value());
+    if (!stored || *stored % bytesPerMegabyte != 0 ||
+        !select(std::to_string(*stored / bytesPerMegabyte))) {
+      showStoredSize();
+    }
     return;
   }
   setValue(std::to_string(*bytes));

@@ -48,9 +48,7 @@ const platform::View* Tabs::view(std::string_view identifier) const {
 void Tabs::prepareScsiTab() {
   // A view can change its tab without a copy here: the one that there is stands in for it.
   sharedVar::newScsiTab = views_[scsiIndex];
-  if (!sharedVar::scsiTabState) {
-    tabViewC.removeTabViewItem(scsiTab);
-  }
+  updateScsiTab();
   scsiID0.setState(platform::State::off);
 }
 

@@ -75,6 +75,7 @@ bool startDetached(std::vector<std::string> command, const std::string& folder) 
   }
   std::vector<char*> arguments;
   arguments.reserve(command.size() + 1);
+  arguments.reserve(command.size() + 1);
   for (std::string& word : command) {
     arguments.push_back(word.data());
   }

@@ -8,14 +8,14 @@
 namespace platform {
 namespace {
 
-const std::string everyType =
+constexpr std::string_view everyType =
     "<plist><dict><key>text</key><string>a &amp; \u00e9</string><key>yes</key><true/>"
     "<key>count</key><integer>7</integer><key>below</key><integer>-5</integer>"
     "<key>real</key><real>1.5</real><key>date</key><date>2020-01-02T03:04:05Z</date>"
     "<key>data</key><data>AAEC</data><key>list</key><array><string>in</string><false/></array>"
     "<key>inner</key><dict><key>k</key><string>v</string></dict></dict></plist>";
 
-std::string binary(const std::string& xml) {
+std::string binary(std::string_view xml) {
   plist_t root = nullptr;
   char* bytes = nullptr;
   std::uint32_t size = 0;
@@ -36,7 +36,7 @@ struct PropertyListTest : ::testing::Test {
 };
 
 TEST_F(PropertyListTest, CarriesEveryTypeAlong) {
-  for (const std::string& content : {everyType, binary(everyType)}) {
+  for (const std::string& content : {std::string(everyType), binary(everyType)}) {
     auto list = read(content);
     ASSERT_TRUE(list) << error.message();
     list->set("text", std::string("<new>"));
@@ -66,9 +66,9 @@ TEST_F(PropertyListTest, RefusesWhatItCannotUse) {
     open += "<array>";
   }
   for (const std::string& content :
-       {std::string(), std::string("garbage"), std::string("bplist00"), everyType.substr(0, 200),
-        binary(everyType).substr(0, 100), open, everyType + std::string(65536, '\n'),
-        std::string("<plist><array/></plist>")}) {
+       {std::string(), std::string("garbage"), std::string("bplist00"),
+        std::string(everyType.substr(0, 200)), binary(everyType).substr(0, 100), open,
+        std::string(everyType).append(65536, '\n'), std::string("<plist><array/></plist>")}) {
     EXPECT_FALSE(read(content)) << content.substr(0, 99);
     EXPECT_TRUE(error);
   }
