@@ -1,5 +1,5 @@
 # The window: the room desktop/, the program and its bundle.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets LinguistTools)
 
 add_room(desktop PUBLIC editor app volumes document platform Qt6::Widgets)
 set_target_properties(desktop PROPERTIES AUTOMOC ON)
@@ -22,5 +22,11 @@ foreach(resource ${resources})
     DEPENDS resources/${resource})
   list(APPEND copies ${contents}/Resources/${resource})
 endforeach()
+# Texts in other languages. lupdate finds them in the core by the name of the marking function:
+#   lupdate -tr-function-alias QT_TRANSLATE_NOOP+=translatable -no-obsolete -locations none
+#           -I . desktop editor document -ts resources/translations/quillon-settings_de.ts
+set_source_files_properties(resources/translations/quillon-settings_de.ts
+                            PROPERTIES OUTPUT_LOCATION ${contents}/Resources)
+qt_add_lrelease(quillon-settings TS_FILES resources/translations/quillon-settings_de.ts)
 add_custom_target(bundle ALL DEPENDS ${copies})
 add_dependencies(quillon-settings bundle)

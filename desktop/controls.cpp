@@ -2,7 +2,6 @@
 
 #include <QAbstractSpinBox>
 #include <QCompleter>
-#include <QCoreApplication>
 #include <QEvent>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -30,22 +29,11 @@ class WheelGuard : public QObject {
   }
 };
 
-QString quoted(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString translated(const char* text) { return QCoreApplication::translate("Help", text); }
-
-QStringList shownItems(const std::vector<std::string>& items) {
-  QStringList list;
-  std::transform(items.begin(), items.end(), std::back_inserter(list),
-                 [](const std::string& item) { return shown(item); });
-  return list;
-}
-
 // Items are taken over only when they changed: an open list stays open otherwise.
-void showItems(QComboBox* box, const std::vector<std::string>& items) {
-  const QStringList wanted = shownItems(items);
+void showItems(QComboBox* box, const std::vector<std::string>& items,
+               QString (*text)(const std::string&)) {
+  QStringList wanted;
+  std::transform(items.begin(), items.end(), std::back_inserter(wanted), text);
   QStringList present;
   for (int index = 0; index < box->count(); ++index) {
     present.append(box->itemText(index));
@@ -64,21 +52,6 @@ void attach(platform::Control& control, Widget* widget, Show show) {
 }
 
 }  // namespace
-
-QString helpOf(document::Key key) {
-  const document::KeyRow& row = document::rowOf(key);
-  QString help = translated(row.help.data());
-  help += QLatin1Char(' ');
-  help += row.defaultValue.empty()
-              ? translated("If unsure, leave it empty.")
-              : translated("If unsure, leave it at \"%1\".").arg(quoted(row.defaultValue));
-  help += QLatin1Char(' ');
-  help += row.written.empty()
-              ? translated("Writes \"%1\".").arg(quoted(row.text).trimmed())
-              : translated("Writes \"%1\", %2.")
-                    .arg(quoted(row.text).trimmed(), translated(row.written.data()));
-  return help;
-}
 
 void describe(QWidget* widget, const platform::Control& control, const QString& help) {
   widget->setObjectName(shown(control.name()));
@@ -193,7 +166,7 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
   const auto show = [box, &control] {
     const QSignalBlocker quiet(box);
     box->setEnabled(control.isEnabled());
-    showItems(box, control.items());
+    showItems(box, control.items(), shown);
     const QString text = shown(control.stringValue());
     const auto selected = control.indexOfSelectedItem();
     // The box looks for an entry with the text of the field when the focus leaves: it is to find
@@ -227,7 +200,7 @@ QComboBox* Controls::popUpButton(platform::PopUpButton& control, const QString& 
   attach(control, box, [box, &control] {
     const QSignalBlocker quiet(box);
     box->setEnabled(control.isEnabled());
-    showItems(box, control.items());
+    showItems(box, control.items(), translatedItem);
     const auto selected = control.indexOfSelectedItem();
     box->setCurrentIndex(selected ? static_cast<int>(*selected) : -1);
   });
@@ -260,7 +233,7 @@ QLabel* Controls::statusLine(platform::TextField& control) {
 QProgressBar* Controls::progressBar(platform::ProgressIndicator& control) {
   auto* const bar = new QProgressBar;
   describe(bar, control, {});
-  bar->setAccessibleName(QCoreApplication::translate("Controls", "Activity"));
+  bar->setAccessibleName(desktop::tr("Activity"));
   bar->setTextVisible(false);
   attach(control, bar, [bar, &control] {
     // A bar without a range moves for as long as it is shown.

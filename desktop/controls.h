@@ -11,7 +11,6 @@
 #include <QString>
 
 #include "desktop/edits.h"
-#include "document/key_table.h"
 #include "platform/control.h"
 
 namespace desktop {
@@ -50,9 +49,6 @@ class Controls {
 
   Edits& edits_;
 };
-
-/// What to know of a setting: what it does, what to leave it at, and what is written.
-QString helpOf(document::Key key);
 
 /// Sets what every widget has.
 void describe(QWidget* widget, const platform::Control& control, const QString& help);

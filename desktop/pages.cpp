@@ -1,72 +1,15 @@
 #include "desktop/pages.h"
 
-#include <QCoreApplication>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "desktop/page_builder.h"
+#include "desktop/texts.h"
 #include "desktop/volume_view.h"
 
 namespace desktop {
 namespace {
-
-using document::Key;
-
-QString tr(const char* text) { return QCoreApplication::translate("Pages", text); }
-
-QWidget* field(Controls& controls, editor::TextFieldSetting& setting) {
-  return controls.lineEdit(setting.field, helpOf(setting.key()));
-}
-
-QWidget* choice(Controls& controls, editor::PopUpSetting& setting) {
-  return controls.popUpButton(setting.button, helpOf(setting.key()));
-}
-
-QWidget* combo(Controls& controls, editor::ComboBoxSetting& setting) {
-  return controls.comboBox(setting.box, helpOf(setting.key()));
-}
-
-QWidget* check(Controls& controls, editor::CheckBoxSetting& setting, const QString& text) {
-  return controls.checkBox(setting.box, text, helpOf(setting.key()));
-}
-
-QWidget* steps(Controls& controls, editor::StepperSetting& setting) {
-  return controls.stepper(setting.stepper, setting.field, helpOf(setting.key()));
-}
-
-// A label and its widget. Keyboards reach the widget through the label's letter, screen readers
-// name it by the label.
-void addRow(QFormLayout* form, const QString& label, QWidget* widget) {
-  form->addRow(label, widget);
-  widget->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
-}
-
-// The same with a button behind the widget.
-void addRow(QFormLayout* form, const QString& label, QWidget* widget, QWidget* button) {
-  auto* const line = new QHBoxLayout;
-  line->addWidget(widget, 1);
-  line->addWidget(button);
-  addRow(form, label, widget);
-  const int row = form->rowCount() - 1;
-  form->takeAt(form->count() - 1);
-  form->setLayout(row, QFormLayout::FieldRole, line);
-}
-
-struct Page {
-  QWidget* widget = new QWidget;
-  QFormLayout* form = new QFormLayout(widget);
-
-  Page() { form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow); }
-};
-
-void addHeading(QFormLayout* form, const QString& text) {
-  auto* const heading = new QLabel(text);
-  QFont font = heading->font();
-  font.setBold(true);
-  heading->setFont(font);
-  form->addRow(heading);
-}
 
 // What only helps to find faults in this program: small and at the foot.
 QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
@@ -92,7 +35,7 @@ QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
 
 }  // namespace
 
-QWidget* volumesPage(Controls& controls, editor::ViewController& controller,
+QWidget* volumesPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller,
                      const QString& images) {
   volumes::VolumeTable& volumes = controller.volumes;
   editor::SharedFolderGroup& shared = controller.sharedFolder;
@@ -101,6 +44,7 @@ QWidget* volumesPage(Controls& controls, editor::ViewController& controller,
   table->setAccessibleName(tr("Disk images"));
   table->setAccessibleDescription(tr("The disk images of the Macintosh, in their order."));
   auto* const title = new QLabel(tr("Disk i&mages:"));
+  title->setObjectName(QLatin1String("volumesLabel"));
   title->setBuddy(table);
 
   auto* const buttons = new QHBoxLayout;
@@ -114,105 +58,102 @@ QWidget* volumesPage(Controls& controls, editor::ViewController& controller,
                           tr("Makes an empty disk image. It is not added to the list.")));
   buttons->addStretch();
 
-  auto* const form = new QFormLayout;
-  addRow(form, tr("Shared fol&der:"), field(controls, shared.unixRootPath),
-         controls.pushButton(shared.unixRoot, tr("Ch&oose…"), tr("Chooses the shared folder.")));
-
   auto* const page = new QWidget;
   auto* const layout = new QVBoxLayout(page);
   layout->addWidget(title);
   layout->addWidget(table, 1);
   layout->addLayout(buttons);
-  layout->addLayout(form);
+  PageBuilder builder(controls, places);
+  builder.field(
+      shared.unixRootPath, tr("Shared fol&der:"),
+      controls.pushButton(shared.unixRoot, tr("Ch&oose…"), tr("Chooses the shared folder.")));
+  layout->addLayout(builder.form());
   layout->addLayout(diagnosticsRow(controls, volumes));
   return page;
 }
 
 QWidget* scsiPage(Controls& controls, editor::ViewController& controller) {
-  const Page page;
-  page.form->addRow(
+  auto* const page = new QWidget;
+  auto* const layout = new QVBoxLayout(page);
+  layout->addWidget(
       controls.checkBox(controller.tabs.scsiID0, tr("SCSI &ID 0"),
                         tr("A mark for yourself while the window is open. It is not saved.")));
-  return page.widget;
+  layout->addStretch();
+  return page;
 }
 
-QWidget* machinePage(Controls& controls, editor::ViewController& controller) {
+QWidget* machinePage(Controls& controls, SettingWidgets& places,
+                     editor::ViewController& controller) {
   editor::MachineGroup& machine = controller.machine;
-  const Page page;
-  addRow(
-      page.form, tr("&ROM file:"), field(controls, machine.romFile),
+  PageBuilder page(controls, places);
+  page.field(
+      machine.romFile, tr("&ROM file:"),
       controls.pushButton(machine.browseROM.button, tr("Bro&wse…"), tr("Chooses the ROM file.")));
-  addRow(page.form, tr("&Boot drive:"), choice(controls, machine.stateStart));
-  addRow(page.form, tr("RA&M size (MB):"), combo(controls, machine.ramSizeMB));
-  addRow(page.form, tr("M&odel:"), choice(controls, machine.modelID));
-  addRow(page.form, tr("Processor (CP&U):"), choice(controls, machine.cpuType));
-  page.form->addRow(QString(),
-                    check(controls, machine.stateCDROM, tr("&Disable the CD-ROM drive")));
-  return page.widget;
+  page.choice(machine.stateStart, tr("&Boot drive:"));
+  page.combo(machine.ramSizeMB, tr("RA&M size (MB):"));
+  page.choice(machine.modelID, tr("M&odel:"));
+  page.choice(machine.cpuType, tr("Processor (CP&U):"));
+  page.check(machine.stateCDROM, tr("&Disable the CD-ROM drive"));
+  return page.page();
 }
 
-QWidget* displayPage(Controls& controls, editor::ViewController& controller) {
+QWidget* displayPage(Controls& controls, SettingWidgets& places,
+                     editor::ViewController& controller) {
   editor::ScreenSetting& screen = controller.display.screen;
-  const QString help = helpOf(Key::screen);
-  const Page page;
-  addRow(page.form, tr("Screen &mode:"), controls.popUpButton(screen.screenType, help));
-  addRow(page.form, tr("&Width:"), controls.comboBox(screen.screenWidth, help));
-  addRow(page.form, tr("Hei&ght:"), controls.comboBox(screen.screenHeight, help));
-  addRow(page.form, tr("Refresh r&ate:"), choice(controls, controller.display.refreshRate));
-  return page.widget;
+  const QString help = helpOf(screen);
+  PageBuilder page(controls, places);
+  page.row(screen, tr("Screen &mode:"), controls.popUpButton(screen.screenType, help));
+  page.row(screen, tr("&Width:"), controls.comboBox(screen.screenWidth, help));
+  page.row(screen, tr("Hei&ght:"), controls.comboBox(screen.screenHeight, help));
+  page.choice(controller.display.refreshRate, tr("Refresh r&ate:"));
+  return page.page();
 }
 
-QWidget* soundPage(Controls& controls, editor::ViewController& controller) {
+QWidget* soundPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller) {
   editor::InputGroup& input = controller.input;
-  const Page page;
-  addHeading(page.form, tr("Sound"));
-  page.form->addRow(QString(), check(controls, input.disableSound, tr("&Disable sound")));
-  addRow(page.form, tr("&Output device:"), field(controls, input.audioOut));
-  addRow(page.form, tr("&Mixer device:"), field(controls, input.audioMix));
-  addHeading(page.form, tr("Keyboard"));
-  page.form->addRow(QString(), check(controls, input.rawKeys, tr("Use raw &key codes")));
-  addRow(page.form, tr("Ke&y code file:"), field(controls, input.rawKeyFile),
-         controls.pushButton(input.rawKeyFileSelect.button, tr("&Browse…"),
-                             tr("Chooses the key code file.")));
-  addHeading(page.form, tr("Mouse"));
-  addRow(page.form, tr("Mouse &wheel:"), choice(controls, input.mouseWheel));
-  addRow(page.form, tr("L&ines to scroll:"), steps(controls, input.mouseScroll));
-  return page.widget;
+  PageBuilder page(controls, places);
+  page.heading(tr("Sound"));
+  page.check(input.disableSound, tr("&Disable sound"));
+  page.field(input.audioOut, tr("&Output device:"));
+  page.field(input.audioMix, tr("&Mixer device:"));
+  page.heading(tr("Keyboard"));
+  page.check(input.rawKeys, tr("Use raw &key codes"));
+  page.field(input.rawKeyFile, tr("Ke&y code file:"),
+             controls.pushButton(input.rawKeyFileSelect.button, tr("&Browse…"),
+                                 tr("Chooses the key code file.")));
+  page.heading(tr("Mouse"));
+  page.choice(input.mouseWheel, tr("Mouse &wheel:"));
+  page.steps(input.mouseScroll, tr("L&ines to scroll:"));
+  return page.page();
 }
 
-QWidget* networkPage(Controls& controls, editor::ViewController& controller) {
+QWidget* networkPage(Controls& controls, SettingWidgets& places,
+                     editor::ViewController& controller) {
   editor::NetworkGroup& network = controller.network;
-  const Page page;
-  const auto wide = [&](editor::ComboBoxSetting& setting) {
-    QComboBox* const box = controls.comboBox(setting.box, helpOf(setting.key()));
+  PageBuilder page(controls, places);
+  for (QComboBox* const box : {page.combo(network.modemPort, tr("&Modem port:")),
+                               page.combo(network.printerPort, tr("P&rinter port:")),
+                               page.combo(network.etherPort, tr("Network &device:"))}) {
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return box;
-  };
-  addRow(page.form, tr("&Modem port:"), wide(network.modemPort));
-  addRow(page.form, tr("P&rinter port:"), wide(network.printerPort));
-  addRow(page.form, tr("Network &device:"), wide(network.etherPort));
-  page.form->addRow(QString(),
-                    check(controls, network.tunnelUDP, tr("Tunnel the net&work over UDP")));
-  addRow(page.form, tr("&UDP port:"), steps(controls, network.portUDP));
-  return page.widget;
+  }
+  page.check(network.tunnelUDP, tr("Tunnel the net&work over UDP"));
+  page.steps(network.portUDP, tr("&UDP port:"));
+  return page.page();
 }
 
-QWidget* jitPage(Controls& controls, editor::ViewController& controller) {
+QWidget* jitPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller) {
   editor::JitGroup& jit = controller.jit;
-  const Page page;
-  addHeading(page.form, tr("Just-in-time compiler"));
-  page.form->addRow(QString(), check(controls, jit.enableJIT, tr("Enable the &JIT compiler")));
-  page.form->addRow(QString(),
-                    check(controls, jit.compileFPU, tr("Compile floating-point instr&uctions")));
-  addRow(page.form, tr("Cache si&ze (KB):"), combo(controls, jit.jitCache));
-  page.form->addRow(QString(),
-                    check(controls, jit.lazyFlush, tr("Flush the cache la&gging behind")));
-  page.form->addRow(QString(), check(controls, jit.inlineBlocks, tr("Inline &blocks")));
-  addHeading(page.form, tr("Processor emulation"));
-  page.form->addRow(QString(), check(controls, jit.ignoreSegV, tr("Ignore &memory faults")));
-  page.form->addRow(QString(),
-                    check(controls, jit.dontUseCPU, tr("Rest while the Macintosh is &idle")));
-  return page.widget;
+  PageBuilder page(controls, places);
+  page.heading(tr("Just-in-time compiler"));
+  page.check(jit.enableJIT, tr("Enable the &JIT compiler"));
+  page.check(jit.compileFPU, tr("Compile floating-point instr&uctions"));
+  page.combo(jit.jitCache, tr("Cache si&ze (KB):"));
+  page.check(jit.lazyFlush, tr("Flush the cache lazil&y"));
+  page.check(jit.inlineBlocks, tr("Inline &blocks"));
+  page.heading(tr("Processor emulation"));
+  page.check(jit.ignoreSegV, tr("Ignore &memory faults"));
+  page.check(jit.dontUseCPU, tr("Rest while the Macintosh is &idle"));
+  return page.page();
 }
 
 }  // namespace desktop

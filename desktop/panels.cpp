@@ -29,8 +29,8 @@ void setTypes(QFileDialog& dialog, const std::vector<std::string>& types) {
   for (const std::string& type : types) {
     patterns.append(QLatin1String("*.") + shown(type));
   }
-  dialog.setNameFilter(QFileDialog::tr("Disk images") + QLatin1String(" (") +
-                       patterns.join(QLatin1Char(' ')) + QLatin1Char(')'));
+  dialog.setNameFilter(tr("Disk images") + QLatin1String(" (") + patterns.join(QLatin1Char(' ')) +
+                       QLatin1Char(')'));
   dialog.setOption(QFileDialog::HideNameFilterDetails);
 }
 

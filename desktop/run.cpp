@@ -1,21 +1,43 @@
 #include "desktop/run.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 #include "desktop/application.h"
 #include "desktop/panels.h"
 #include "desktop/settings_window.h"
 #include "desktop/signals.h"
+#include "desktop/texts.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
 
 namespace desktop {
+
+namespace {
+
+// English needs no file.
+void translate(QTranslator& translator, const char* name, const QString& folder) {
+  const QLocale locale;
+  if (locale.language() != QLocale::English && locale.language() != QLocale::C &&
+      translator.load(locale, QLatin1String(name), QLatin1String("_"), folder)) {
+    QCoreApplication::installTranslator(&translator);
+  }
+}
+
+}  // namespace
 
 int run(int& argc, char** argv, const Surroundings& surroundings) {
   const QApplication qt(argc, argv);
   QApplication::setDesktopFileName(QLatin1String("org.quillon.Settings"));
   QApplication::setApplicationName(QLatin1String("quillon-settings"));
   QApplication::setApplicationVersion(QLatin1String(surroundings.version));
+
+  QTranslator ours;
+  QTranslator qts;
+  translate(ours, "quillon-settings", shown(surroundings.bundle.path() + "/Contents/Resources"));
+  translate(qts, "qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 
   Application application;
   Panels panels;

@@ -1,5 +1,6 @@
 #include "desktop/settings_window.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -10,9 +11,12 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/agreement_sheet.h"
 #include "desktop/create_sheet.h"
+#include "desktop/find_field.h"
+#include "desktop/help_line.h"
 #include "desktop/pages.h"
 #include "desktop/preferences_window.h"
 #include "desktop/texts.h"
@@ -23,7 +27,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
                                Edits& edits)
     : controller_(controller), host_(host), controls_(edits), tabs_(new QTabWidget) {
   setObjectName(QLatin1String("settingsWindow"));
-  setWindowTitle(tr("Quillon Settings"));
+  setWindowTitle(tr("Quillon Settings") + QLatin1String("[*]"));
   tabs_->setObjectName(shown(controller.tabs.tabViewC.name()));
   guardWheel(tabs_->tabBar());
 
@@ -34,11 +38,15 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   buildPages();
   buildMenus();
   buildShortcuts();
+  auto* const help = new HelpLine;
+  layout->addWidget(help);
   layout->addLayout(fileRow());
   layout->addLayout(buttonRow());
+  help->follow(content);
   controller.bitCreate.action = [this] { openCreation(); };
   controller.tabs.tabViewC.attach([this] { showTabs(); });
   resize(720, 560);
+  buildMarks();
   controller.viewWillAppear(delegate_);
 }
 
@@ -56,13 +64,13 @@ void SettingsWindow::buildPages() {
     tabs_->addTab(area, QString());
     pages_[tabs.view(identifier)] = area;
   };
-  add("volumesTab", volumesPage(controls_, controller_, images));
+  add("volumesTab", volumesPage(controls_, places_, controller_, images));
   add("scsiTab", scsiPage(controls_, controller_));
-  add("machineTab", machinePage(controls_, controller_));
-  add("displayTab", displayPage(controls_, controller_));
-  add("soundTab", soundPage(controls_, controller_));
-  add("networkTab", networkPage(controls_, controller_));
-  add("jitTab", jitPage(controls_, controller_));
+  add("machineTab", machinePage(controls_, places_, controller_));
+  add("displayTab", displayPage(controls_, places_, controller_));
+  add("soundTab", soundPage(controls_, places_, controller_));
+  add("networkTab", networkPage(controls_, places_, controller_));
+  add("jitTab", jitPage(controls_, places_, controller_));
 }
 
 void SettingsWindow::showTabs() {
@@ -71,7 +79,8 @@ void SettingsWindow::showTabs() {
   tabs_->setUpdatesEnabled(false);
   tabs_->clear();
   for (const auto& item : items) {
-    const QString label = tr(item->label.c_str()).replace(QLatin1Char('&'), QLatin1String("&&"));
+    const QString label =
+        translatedItem(item->label).replace(QLatin1Char('&'), QLatin1String("&&"));
     tabs_->addTab(pages_.at(item->view.get()), label);
   }
   tabs_->setCurrentIndex(std::max(0, tabs_->indexOf(const_cast<QWidget*>(current))));
@@ -171,6 +180,13 @@ void SettingsWindow::buildMenus() {
 }
 
 void SettingsWindow::buildShortcuts() {
+  auto* const find = new FindField(
+      places_,
+      [this](const SettingWidget& place) { return plainText(tabs_->tabText(tabOf(place))); },
+      [this](const SettingWidget& place) { goTo(place); });
+  menuBar()->setCornerWidget(find);
+  const auto* const search = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
+  connect(search, &QShortcut::activated, find, [find] { find->setFocus(Qt::ShortcutFocusReason); });
   for (int number = 1; number <= static_cast<int>(pages_.size()); ++number) {
     auto* const shortcut = new QShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number), this);
     connect(shortcut, &QShortcut::activated, this, [this, number] {
@@ -180,6 +196,52 @@ void SettingsWindow::buildShortcuts() {
       }
     });
   }
+}
+
+int SettingsWindow::tabOf(const SettingWidget& place) const {
+  for (int index = 0; index < tabs_->count(); ++index) {
+    if (tabs_->widget(index)->isAncestorOf(place.widget)) {
+      return index;
+    }
+  }
+  return -1;
+}
+
+void SettingsWindow::goTo(const SettingWidget& place) {
+  tabs_->setCurrentIndex(tabOf(place));
+  place.widget->setFocus(Qt::ShortcutFocusReason);
+}
+
+// What is changed is found by comparing, each time that the program has done something and is about
+// to wait or to go on.
+void SettingsWindow::buildMarks() {
+  volumesLabel_ = findChild<QWidget*>(QLatin1String("volumesLabel"));
+  const auto* const dispatcher = QAbstractEventDispatcher::instance();
+  for (const auto signal :
+       {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
+    connect(dispatcher, signal, this, &SettingsWindow::updateMarks);
+  }
+}
+
+void SettingsWindow::updateMarks() {
+  const auto changed = controller_.changedKeys();
+  const auto mark = [](QWidget* label, bool isChanged) {
+    if (label->font().bold() != isChanged) {
+      QFont font = label->font();
+      font.setBold(isChanged);
+      label->setFont(font);
+    }
+  };
+  for (const SettingWidget& place : places_) {
+    // Some controls show more than one key.
+    const auto& control = document::rowOf(place.setting->key()).control;
+    mark(place.label, std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
+           return document::rowOf(key).control == control;
+         }));
+  }
+  const bool volumesChanged = controller_.volumesChanged();
+  mark(volumesLabel_, volumesChanged);
+  setWindowModified(!changed.empty() || volumesChanged);
 }
 
 void SettingsWindow::openPreferences() {

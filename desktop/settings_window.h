@@ -6,6 +6,7 @@
 #include <map>
 
 #include "desktop/controls.h"
+#include "desktop/setting_widgets.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
 
@@ -31,6 +32,10 @@ class SettingsWindow : public QMainWindow {
   [[nodiscard]] QLayout* fileRow();
   [[nodiscard]] QLayout* buttonRow();
   void showTabs();
+  void buildMarks();
+  void updateMarks();
+  void goTo(const SettingWidget& place);
+  [[nodiscard]] int tabOf(const SettingWidget& place) const;
   void showStart(QPushButton* button);
   void openPreferences();
   void openAgreement();
@@ -45,6 +50,8 @@ class SettingsWindow : public QMainWindow {
   QAction* start_ = nullptr;
   QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;
+  SettingWidgets places_;
+  QWidget* volumesLabel_ = nullptr;
 };
 
 }  // namespace desktop

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <string>
 
@@ -10,5 +11,14 @@ inline QString shown(const std::string& text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 inline std::string stored(const QString& text) { return text.toStdString(); }
+
+/// A text of the window, outside a class that has a function for that of its own, in the person's
+/// language.
+inline QString tr(const char* text) { return QCoreApplication::translate("desktop", text); }
+
+/// An entry of a list of the core in the person's language.
+inline QString translatedItem(const std::string& text) {
+  return QCoreApplication::translate("Items", text.c_str());
+}
 
 }  // namespace desktop

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "platform/text.h"
+#include "platform/translatable.h"
 
 namespace editor {
 namespace {
@@ -46,7 +47,8 @@ ScreenSetting::ScreenSetting(ControlGroup& group)
       screenHeight("screenHeight"),
       screenhoriz_{"1024", "800", "640", "512", std::string(maximumWord)},
       screenvert_{"768", "600", "480", "384", std::string(maximumWord)} {
-  screenType.addItems({"Window", "Full screen"});
+  screenType.addItems(
+      {platform::translatable("Items", "Window"), platform::translatable("Items", "Full screen")});
   screenType.action = [this] { videoType(); };
   screenWidth.action = [this] { winWidth(); };
   screenHeight.action = [this] { winHeight(); };
@@ -57,14 +59,25 @@ void ScreenSetting::fill() {
   for (const std::string& part : screensep_) {
     print("Screen: ", part);
   }
+  screenWidth.addItems(screenhoriz_);
+  screenHeight.addItems(screenvert_);
+  showParts();
+}
+
+void ScreenSetting::showValue() {
+  split();
+  showParts();
+}
+
+void ScreenSetting::showParts() {
   if (screensep_[type] == "win") {
     screenType.selectItem(0);
   } else {
     screensep_[type] = "dga";
     screenType.selectItem(1);
   }
-  fillSize(width, screenWidth, screenhoriz_);
-  fillSize(height, screenHeight, screenvert_);
+  showSize(width, screenWidth, screenhoriz_);
+  showSize(height, screenHeight, screenvert_);
 }
 
 // Parts that the value lacks come from the default; more than three are dropped.
@@ -81,15 +94,15 @@ void ScreenSetting::split() {
   }
 }
 
-void ScreenSetting::fillSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
+void ScreenSetting::showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
   const std::string& size = screensep_[part];
   auto found = std::find(sizes.begin(), sizes.end(), size);
   if (found == sizes.end() && size == maximumValue) {
     found = sizes.begin() + maximumIndex;
   } else if (found == sizes.end()) {
     found = sizes.insert(found, size);
+    box.addItem(size);
   }
-  box.addItems(sizes);
   box.selectItem(static_cast<std::size_t>(found - sizes.begin()));
 }
 
@@ -112,6 +125,15 @@ void ScreenSetting::editSize(Part part, platform::ComboBox& box, std::vector<std
   print(screensep_[part]);
 }
 
+std::string ScreenSetting::valueToSave() const {
+  std::string joined;
+  for (const std::string& part : screensep_) {
+    joined += &part == screensep_.data() ? "" : "/";
+    joined += part == maximumWord ? std::string(maximumValue) : part;
+  }
+  return joined;
+}
+
 void ScreenSetting::join() {
   for (std::string& part : screensep_) {
     print(part);
@@ -120,25 +142,30 @@ void ScreenSetting::join() {
       print(part);
     }
   }
-  setValue(screensep_[type] + "/" + screensep_[width] + "/" + screensep_[height]);
+  setValue(valueToSave());
 }
 
 RefreshRateSetting::RefreshRateSetting(ControlGroup& group)
     : PopUpSetting(group, Key::frameskip, rateTitles(),
                    {.heading = Announcement::Heading::keyText}) {}
 
-void RefreshRateSetting::fill() {
-  const auto frameskip = platform::parseInt64(value());
+std::size_t RefreshRateSetting::entryOf(std::string_view value) const {
+  const auto frameskip = platform::parseInt64(value);
   const auto* const rate = std::find_if(
       rates.begin(), rates.end(), [&](const Rate& known) { return known.frameskip == frameskip; });
-  const auto position = static_cast<std::size_t>(rate - rates.begin());
-  if (rate == rates.end()) {
+  return static_cast<std::size_t>(rate - rates.begin());
+}
+
+void RefreshRateSetting::fill() {
+  const auto frameskip = platform::parseInt64(value());
+  const std::size_t position = entryOf(value());
+  const bool known = position < rates.size();
+  if (!known) {
     fileValue_ = value();
     button.addItems({fileValue_ + " (from the file)"});
   }
-  const std::string shownPosition = rate == rates.end() ? "nil" : std::to_string(position);
-  print("NEWFRESH!!  ", shownPosition);
-  print("REFRESH!!  ", shownPosition);
+  print("NEWFRESH!!  ", known ? std::to_string(position) : "nil");
+  print("REFRESH!!  ", known ? std::to_string(position) : "nil");
   print("ACTUAL!!!  ", frameskip ? std::to_string(*frameskip) : value());
   button.selectItem(position);
 }

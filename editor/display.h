@@ -21,8 +21,11 @@ class ScreenSetting : public Setting {
   /// Makes the parts the value of the setting.
   void join();
 
+  [[nodiscard]] std::string valueToSave() const override;
+
  protected:
   void fill() override;
+  void showValue() override;
 
  private:
   enum Part : std::size_t { type, width, height };
@@ -32,7 +35,8 @@ class ScreenSetting : public Setting {
   void winWidth() { editSize(width, screenWidth, screenhoriz_); }
   void winHeight() { editSize(height, screenHeight, screenvert_); }
 
-  void fillSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
+  void showParts();
+  void showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
   void editSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
 
   std::array<std::string, 3> screensep_;
@@ -46,6 +50,8 @@ class RefreshRateSetting : public PopUpSetting {
   explicit RefreshRateSetting(ControlGroup& group);
 
  protected:
+  [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
+  void showValue() override { PopUpSetting::fill(); }
   void fill() override;
   void chosen(std::size_t index) override { refreshRate(index); }
 

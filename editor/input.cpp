@@ -1,5 +1,7 @@
 #include "editor/input.h"
 
+#include "platform/translatable.h"
+
 namespace editor {
 
 RawKeysSetting::RawKeysSetting(ControlGroup& group, TextFieldSetting& file)
@@ -24,13 +26,18 @@ void RawKeysSetting::rawKeycodes() {
 }
 
 MouseWheelSetting::MouseWheelSetting(ControlGroup& group)
-    : PopUpSetting(group, Key::mousewheelmode, {"Page up / page down", "Cursor up / down"},
+    : PopUpSetting(group, Key::mousewheelmode,
+                   {platform::translatable("Items", "Page up / page down"),
+                    platform::translatable("Items", "Cursor up / down")},
                    {.heading = Announcement::Heading::keyText}) {}
 
+std::size_t MouseWheelSetting::entryOf(std::string_view value) const {
+  return value == "1" ? 1 : 0;
+}
+
 void MouseWheelSetting::fill() {
-  const bool cursor = value() == "1";
-  setValue(cursor ? "1" : "0");
-  button.selectItem(cursor ? 1 : 0);
+  setValue(entryOf(value()) == 1 ? "1" : "0");
+  PopUpSetting::fill();
 }
 
 void MouseWheelSetting::mouseWheel(std::size_t index) {

@@ -24,6 +24,7 @@ class MouseWheelSetting : public PopUpSetting {
   explicit MouseWheelSetting(ControlGroup& group);
 
  protected:
+  [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
   void fill() override;
   void chosen(std::size_t index) override { mouseWheel(index); }
 

@@ -13,6 +13,7 @@ class JitCacheSetting : public ComboBoxSetting {
 
  protected:
   void fill() override;
+  void showValue() override { select(value()); }
   void typed(const std::string& text) override;
   void chosen(std::size_t index) override { setValue(jitCacheSizes_[index]); }
   void edited() override { jitCachSize(); }

@@ -8,9 +8,12 @@
 
 #include "platform/byte_count.h"
 #include "platform/text.h"
+#include "platform/translatable.h"
 
 namespace editor {
 namespace {
+
+using platform::translatable;
 
 constexpr std::int64_t bytesPerMegabyte = 1048576;
 
@@ -71,13 +74,15 @@ void RomSetting::lookUp() {
 }
 
 BootDriveSetting::BootDriveSetting(ControlGroup& group)
-    : PopUpSetting(group, Key::bootdrive, {"Any drive", "Drive 1"},
+    : PopUpSetting(group, Key::bootdrive,
+                   {translatable("Items", "Any drive"), translatable("Items", "Drive 1")},
                    {.heading = Announcement::Heading::named}) {}
 
+std::size_t BootDriveSetting::entryOf(std::string_view value) const { return value == "0" ? 0 : 1; }
+
 void BootDriveSetting::fill() {
-  const bool any = value() == "0";
-  button.selectItem(any ? 0 : 1);
-  setValue(any ? "0" : "1");
+  PopUpSetting::fill();
+  setValue(entryOf(value()) == 0 ? "0" : "1");
 }
 
 void BootDriveSetting::startDevice(std::size_t index) {
@@ -103,6 +108,10 @@ void RamSizeSetting::fill() {
   }
   box.addItems(ramSizes_);
   showStoredSize();
+}
+
+std::string RamSizeSetting::shownDefault() const {
+  return memoryText(platform::parseInt64(row().defaultValue).value_or(0));
 }
 
 void RamSizeSetting::showStoredSize() {
@@ -150,7 +159,7 @@ void RamSizeSetting::chosen(std::size_t index) {
 ModelSetting::ModelSetting(ControlGroup& group)
     : PopUpSetting(group, Key::modelid, {"Macintosh IIci", "Quadra 900"}) {}
 
-void ModelSetting::fill() { button.selectItem(value() == "14" ? 1 : 0); }
+std::size_t ModelSetting::entryOf(std::string_view value) const { return value == "14" ? 1 : 0; }
 
 void ModelSetting::modelID(std::size_t index) {
   print(std::to_string(index));
@@ -161,21 +170,39 @@ void ModelSetting::modelID(std::size_t index) {
 
 ProcessorSetting::ProcessorSetting(ControlGroup& group)
     : PopUpSetting(group, Key::fpu,
-                   {"68020", "68020 with FPU", "68030", "68030 with FPU", "68040"}) {}
+                   {"68020", translatable("Items", "68020 with FPU"), "68030",
+                    translatable("Items", "68030 with FPU"), "68040"}) {}
 
-void ProcessorSetting::fill() {
-  const std::string& cpu = group().preferences.value(Key::cpu);
-  if (value() != "false" && value() != "true") {
-    button.selectItem(0);
-    return;
+std::size_t ProcessorSetting::entryOf(std::string_view value) const {
+  return entryOf(group().preferences.value(Key::cpu), value);
+}
+
+// One behind the last where the pair stands in no row.
+std::size_t ProcessorSetting::entryOf(std::string_view cpu, std::string_view fpu) {
+  if (fpu != "false" && fpu != "true") {
+    return 0;
   }
-  // A pair that stands in no row leaves the button as it is.
-  const auto found = std::find_if(
+  const auto* const found = std::find_if(
       processors.begin(), processors.end(),
-      [&](const Processor& processor) { return processor.cpu == cpu && processor.fpu == value(); });
-  if (found != processors.end()) {
-    button.selectItem(static_cast<std::size_t>(found - processors.begin()));
+      [&](const Processor& processor) { return processor.cpu == cpu && processor.fpu == fpu; });
+  return static_cast<std::size_t>(found - processors.begin());
+}
+
+// Such a pair leaves the button as it is.
+void ProcessorSetting::fill() {
+  if (entryOf(value()) < processors.size()) {
+    PopUpSetting::fill();
   }
+}
+
+std::string ProcessorSetting::shownDefault() const {
+  return button.items().at(entryOf(document::rowOf(Key::cpu).defaultValue, row().defaultValue));
+}
+
+// Both keys go back together.
+void ProcessorSetting::showValue() {
+  group().preferences.setValue(Key::cpu, std::string(document::rowOf(Key::cpu).defaultValue));
+  fill();
 }
 
 void ProcessorSetting::cpuType(std::size_t index) {

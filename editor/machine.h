@@ -22,6 +22,7 @@ class BootDriveSetting : public PopUpSetting {
   explicit BootDriveSetting(ControlGroup& group);
 
  protected:
+  [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
   void fill() override;
   void chosen(std::size_t index) override { startDevice(index); }
 
@@ -34,7 +35,10 @@ class RamSizeSetting : public ComboBoxSetting {
  public:
   explicit RamSizeSetting(ControlGroup& group);
 
+  [[nodiscard]] std::string shownDefault() const override;
+
  protected:
+  void showValue() override { showStoredSize(); }
   void fill() override;
   void typed(const std::string& text) override;
   void chosen(std::size_t index) override;
@@ -53,7 +57,7 @@ class ModelSetting : public PopUpSetting {
   explicit ModelSetting(ControlGroup& group);
 
  protected:
-  void fill() override;
+  [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
   void chosen(std::size_t index) override { modelID(index); }
 
  private:
@@ -66,11 +70,16 @@ class ProcessorSetting : public PopUpSetting {
  public:
   explicit ProcessorSetting(ControlGroup& group);
 
+  [[nodiscard]] std::string shownDefault() const override;
+
  protected:
+  [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
+  void showValue() override;
   void fill() override;
   void chosen(std::size_t index) override { cpuType(index); }
 
  private:
+  static std::size_t entryOf(std::string_view cpu, std::string_view fpu);
   void cpuType(std::size_t index);
 };
 

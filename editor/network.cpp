@@ -10,6 +10,11 @@ void PortSetting::fill() {
   box.selectItem(box.items().size() - 1);
 }
 
+void PortSetting::showValue() {
+  box.removeAllItems();
+  fill();
+}
+
 void PortSetting::edited() {
   ComboBoxSetting::edited();
   if (echo_ == Echo::optionalAndValue) {

@@ -15,6 +15,7 @@ class PortSetting : public ComboBoxSetting {
 
  protected:
   void fill() override;
+  void showValue() override;
   void typed(const std::string& text) override;
   void chosen(std::size_t /*index*/) override {}
   void edited() override;

@@ -14,6 +14,12 @@ void Setting::load() {
   fill();
 }
 
+void Setting::reset() {
+  setValue(std::string(row().defaultValue));
+  showValue();
+  print(value());
+}
+
 void Setting::printHeading() const {
   const std::string_view text = row().text;
   switch (announcement_.heading) {

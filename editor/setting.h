@@ -75,11 +75,23 @@ class Setting {
   /// Looks the key up and shows its value.
   void load();
 
+  /// Makes the default the value and shows it: an edit like any other.
+  void reset();
+
+  /// The default as a person sees it in the control.
+  [[nodiscard]] virtual std::string shownDefault() const { return std::string(row().defaultValue); }
+
+  /// The value that a save would write now.
+  [[nodiscard]] virtual std::string valueToSave() const { return value(); }
+
  protected:
   virtual void lookUp() { group_.preferences.lookUp(key_, announcement_.found); }
 
   /// Brings the controls in line with the value after the lookup.
   virtual void fill() {}
+
+  /// Brings the controls, filled before, in line with the value.
+  virtual void showValue() { fill(); }
 
   [[nodiscard]] const document::KeyRow& row() const { return document::rowOf(key_); }
   [[nodiscard]] const std::string& value() const { return group_.preferences.value(key_); }

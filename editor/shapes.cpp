@@ -6,6 +6,7 @@
 
 #include "platform/files.h"
 #include "platform/text.h"
+#include "platform/translatable.h"
 
 namespace editor {
 
@@ -15,6 +16,11 @@ CheckBoxSetting::CheckBoxSetting(ControlGroup& group, Key key, Echo echo, Announ
 }
 
 void CheckBoxSetting::fill() { box.setOn(value() != "false"); }
+
+std::string CheckBoxSetting::shownDefault() const {
+  return row().defaultValue == "false" ? platform::translatable("Help", "off")
+                                       : platform::translatable("Help", "on");
+}
 
 void CheckBoxSetting::clicked() {
   if (box.state() == platform::State::mixed && echo_ != Echo::truth) {
@@ -105,6 +111,10 @@ PopUpSetting::PopUpSetting(ControlGroup& group, Key key, const std::vector<std::
     : Setting(group, key, announcement), button(outletOf(key)) {
   button.addItems(titles);
   button.action = [this] { chosen(button.indexOfSelectedItem().value_or(0)); };
+}
+
+std::string PopUpSetting::shownDefault() const {
+  return button.items().at(entryOf(row().defaultValue));
 }
 
 FileButton::FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels)

@@ -22,6 +22,8 @@ class CheckBoxSetting : public Setting {
 
   platform::Button box;
 
+  [[nodiscard]] std::string shownDefault() const override;
+
  protected:
   void fill() override;
   virtual void clicked();
@@ -91,7 +93,12 @@ class PopUpSetting : public Setting {
 
   platform::PopUpButton button;
 
+  [[nodiscard]] std::string shownDefault() const override;
+
  protected:
+  /// The entry that stands for a value.
+  [[nodiscard]] virtual std::size_t entryOf(std::string_view value) const = 0;
+  void fill() override { button.selectItem(entryOf(value())); }
   virtual void chosen(std::size_t index) = 0;
 };
 

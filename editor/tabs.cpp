@@ -4,11 +4,13 @@
 #include <array>
 
 #include "app/shared_var.h"
+#include "platform/translatable.h"
 
 namespace editor {
 namespace {
 
 using app::sharedVar;
+using platform::translatable;
 
 constexpr std::size_t allTabs = 7;
 constexpr std::size_t allButScsi = 6;
@@ -19,13 +21,13 @@ struct Tab {
   const char* label;
 };
 
-constexpr std::array<Tab, allTabs> tabs = {{{"volumesTab", "Volumes"},
-                                            {"scsiTab", "SCSI"},
-                                            {"machineTab", "Machine"},
-                                            {"displayTab", "Display"},
-                                            {"soundTab", "Sound & Input"},
-                                            {"networkTab", "Network"},
-                                            {"jitTab", "JIT"}}};
+constexpr std::array<Tab, allTabs> tabs = {{{"volumesTab", translatable("Items", "Volumes")},
+                                            {"scsiTab", translatable("Items", "SCSI")},
+                                            {"machineTab", translatable("Items", "Machine")},
+                                            {"displayTab", translatable("Items", "Display")},
+                                            {"soundTab", translatable("Items", "Sound & Input")},
+                                            {"networkTab", translatable("Items", "Network")},
+                                            {"jitTab", translatable("Items", "JIT")}}};
 
 }  // namespace
 

@@ -44,6 +44,7 @@ void ViewController::viewDidLoad() {
     setting->load();
   }
   volumes.load(preferences.settings.allContaining("disk "));
+  rememberSaved();
 }
 
 void ViewController::loadFrontEndSettings() {
@@ -76,7 +77,35 @@ bool ViewController::save(std::string_view finalMessage) {
   host_.application.makeFirstResponder(filename_field);
   filename_field.setEnabled(false);
   display.screen.join();
-  return preferences.save(volumes.volumes().paths(), finalMessage);
+  const bool saved = preferences.save(volumes.volumes().paths(), finalMessage);
+  if (saved) {
+    rememberSaved();
+  }
+  return saved;
+}
+
+void ViewController::rememberSaved() {
+  for (const Setting* const setting : settingsInKeyOrder()) {
+    savedValues_.at(document::indexOf(setting->key())) = setting->valueToSave();
+  }
+  savedVolumes_ = volumes.volumes().volName();
+  savedRevision_ = volumes.tableView.revision();
+}
+
+std::vector<Key> ViewController::changedKeys() const {
+  std::vector<Key> changed;
+  for (const Setting* const setting : settingsInKeyOrder()) {
+    if (setting->valueToSave() != savedValues_.at(document::indexOf(setting->key()))) {
+      changed.push_back(setting->key());
+    }
+  }
+  return changed;
+}
+
+// Comparing thousands of locations is left out while nothing has touched the table.
+bool ViewController::volumesChanged() const {
+  return volumes.tableView.revision() != savedRevision_ &&
+         volumes.volumes().volName() != savedVolumes_;
 }
 
 StartResult ViewController::saveAndLaunch() {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/settings_store.h"
 #include "document/preferences.h"
@@ -43,6 +45,14 @@ class ViewController {
   /// Saves and launches the emulator, whether or not the save went well.
   StartResult saveAndLaunch();
 
+  /// The settings whose lines a save would write otherwise than after start-up or after the last
+  /// successful save.
+  [[nodiscard]] std::vector<Key> changedKeys() const;
+  [[nodiscard]] bool volumesChanged() const;
+
+  /// The settings by index.
+  [[nodiscard]] std::array<Setting*, document::keyCount> settingsInKeyOrder() const;
+
   document::Preferences preferences;
   volumes::VolumeTable volumes;
   SharedFolderGroup sharedFolder;
@@ -64,7 +74,7 @@ class ViewController {
  private:
   void connectActions();
   void loadFrontEndSettings();
-  [[nodiscard]] std::array<Setting*, document::keyCount> settingsInKeyOrder() const;
+  void rememberSaved();
   bool save(std::string_view finalMessage);
   void startButton();
   void isStartEnabled();
@@ -72,6 +82,9 @@ class ViewController {
 
   platform::Host host_;
   app::SettingsStore store_;
+  std::array<std::string, document::keyCount> savedValues_;
+  std::vector<platform::Location> savedVolumes_;
+  std::size_t savedRevision_ = 0;  // of the table
 };
 
 }  // namespace editor

@@ -1,0 +1,85 @@
+#include "desktop/find_field.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QFocusEvent>
+#include <QStandardItemModel>
+#include <utility>
+
+namespace desktop {
+namespace {
+
+constexpr int searchedRole = Qt::UserRole;
+constexpr int placeRole = Qt::UserRole + 1;
+
+// Matches all that is known of a setting, and shows its name.
+class SettingCompleter : public QCompleter {
+ public:
+  using QCompleter::QCompleter;
+
+  [[nodiscard]] QString pathFromIndex(const QModelIndex& index) const override {
+    return index.data(Qt::DisplayRole).toString();
+  }
+};
+
+}  // namespace
+
+FindField::FindField(const SettingWidgets& places,
+                     std::function<QString(const SettingWidget&)> tabOf,
+                     std::function<void(const SettingWidget&)> go)
+    : places_(places), tabOf_(std::move(tabOf)), go_(std::move(go)) {
+  setObjectName(QLatin1String("findSetting"));
+  setPlaceholderText(tr("Find a setting (Ctrl+F)"));
+  setAccessibleName(tr("Find a setting"));
+  setToolTip(tr("Type a word of a setting's name, its key or its help."));
+  setWhatsThis(toolTip());
+  setAccessibleDescription(toolTip());
+  setClearButtonEnabled(true);
+  resize(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height(),
+         sizeHint().height());
+  connect(this, &QLineEdit::returnPressed, this, [this] {
+    if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
+      completer()->setCompletionPrefix(text());
+      goTo(completer()->completionModel()->index(0, 0));
+    }
+  });
+}
+
+// Only who searches needs the list.
+void FindField::focusInEvent(QFocusEvent* event) {
+  if (completer() == nullptr) {
+    buildList();
+  }
+  QLineEdit::focusInEvent(event);
+  selectAll();
+}
+
+void FindField::buildList() {
+  auto* const model = new QStandardItemModel(this);
+  for (std::size_t place = 0; place < places_.size(); ++place) {
+    const SettingWidget& entry = places_[place];
+    auto* const item = new QStandardItem(tr("%1 — %2").arg(entry.title, tabOf_(entry)));
+    item->setData(entry.title + QLatin1Char('\n') + entry.widget->whatsThis(), searchedRole);
+    item->setData(static_cast<qulonglong>(place), placeRole);
+    model->appendRow(item);
+  }
+  auto* const list = new SettingCompleter(model, this);
+  list->setCompletionRole(searchedRole);
+  list->setFilterMode(Qt::MatchContains);
+  list->setCaseSensitivity(Qt::CaseInsensitive);
+  list->setMaxVisibleItems(12);
+  setCompleter(list);
+  list->popup()->setMinimumWidth(list->popup()->sizeHintForColumn(0) + 2 * fontMetrics().height());
+  connect(list, qOverload<const QModelIndex&>(&QCompleter::activated), this, &FindField::goTo);
+}
+
+void FindField::goTo(const QModelIndex& hit) {
+  if (hit.isValid()) {
+    const SettingWidget& place = places_.at(hit.data(placeRole).toULongLong());
+    // After the completer has put the name of the hit here.
+    QMetaObject::invokeMethod(this, &QLineEdit::clear, Qt::QueuedConnection);
+    go_(place);
+  }
+}
+
+}  // namespace desktop

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+#include <functional>
+
+#include "desktop/setting_widgets.h"
+
+class QCompleter;
+
+namespace desktop {
+
+/// Finds a setting by words of its label, its key or its help. Return goes to the one picked, or to
+/// the first.
+class FindField : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  /// `tabOf` names the tab of a setting; `go` shows one and gives it the focus.
+  FindField(const SettingWidgets& places, std::function<QString(const SettingWidget&)> tabOf,
+            std::function<void(const SettingWidget&)> go);
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void buildList();
+  void goTo(const QModelIndex& hit);
+
+  const SettingWidgets& places_;
+  std::function<QString(const SettingWidget&)> tabOf_;
+  std::function<void(const SettingWidget&)> go_;
+};
+
+}  // namespace desktop

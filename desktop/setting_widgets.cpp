@@ -1,0 +1,78 @@
+#include "desktop/setting_widgets.h"
+
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <memory>
+
+#include "desktop/texts.h"
+
+namespace desktop {
+namespace {
+
+QString keyWord(const document::KeyRow& row) { return shown(std::string(row.text)).trimmed(); }
+
+QString shownDefault(const editor::Setting& setting) {
+  // Some defaults are words of ours, others are texts for the file.
+  const std::string text = setting.shownDefault();
+  const QString word = QCoreApplication::translate("Help", text.c_str());
+  return word == shown(text) ? translatedItem(text) : word;
+}
+
+void showMenu(QWidget* widget, const QPoint& position, editor::Setting& setting) {
+  auto* field = qobject_cast<QLineEdit*>(widget);
+  if (field == nullptr) {
+    field = widget->findChild<QLineEdit*>();
+  }
+  const std::unique_ptr<QMenu> menu(field != nullptr ? field->createStandardContextMenu()
+                                                     : new QMenu);
+  if (!menu->isEmpty()) {
+    menu->addSeparator();
+  }
+  const QString value = shownDefault(setting);
+  QAction* const reset = menu->addAction(value.isEmpty() ? tr("Reset to Default (empty)")
+                                                         : tr("Reset to Default (%1)").arg(value));
+  reset->setObjectName(QLatin1String("resetSetting"));
+  QObject::connect(reset, &QAction::triggered, [&setting] { setting.reset(); });
+  menu->exec(widget->mapToGlobal(position));
+}
+
+}  // namespace
+
+QString helpOf(const editor::Setting& setting) {
+  const document::KeyRow& row = document::rowOf(setting.key());
+  const QString value = shownDefault(setting);
+  const QString word = keyWord(row);
+  QString help = QCoreApplication::translate("Help", row.help);
+  help += QLatin1Char(' ');
+  help += value.isEmpty() ? tr("If unsure, leave it empty.")
+                          : tr("If unsure, leave it at \"%1\".").arg(value);
+  help += QLatin1Char(' ');
+  help +=
+      row.written == nullptr
+          ? tr("Writes \"%1\".").arg(word)
+          : tr("Writes \"%1\", %2.").arg(word, QCoreApplication::translate("Help", row.written));
+  return help;
+}
+
+void offerReset(const SettingWidget& place) {
+  // A field inside a box or an arrow pair has a menu of its own.
+  for (QWidget* const widget : {place.widget, place.widget->findChild<QWidget*>()}) {
+    if (widget == nullptr ||
+        (widget != place.widget && qobject_cast<QLineEdit*>(widget) == nullptr)) {
+      continue;
+    }
+    widget->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(widget, &QWidget::customContextMenuRequested, widget,
+                     [widget, &setting = *place.setting](const QPoint& position) {
+                       showMenu(widget, position, setting);
+                     });
+  }
+}
+
+QString plainText(const QString& label) {
+  return QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':'));
+}
+
+}  // namespace desktop
