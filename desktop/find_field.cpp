@@ -4,6 +4,7 @@
 #include <QCompleter>
 #include <QFocusEvent>
 #include <QStandardItemModel>
+#include <algorithm>
 #include <utility>
 
 namespace desktop {
@@ -35,8 +36,9 @@ FindField::FindField(const SettingWidgets& places,
   setWhatsThis(toolTip());
   setAccessibleDescription(toolTip());
   setClearButtonEnabled(true);
-  resize(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height(),
-         sizeHint().height());
+  const int width = fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height();
+  setMinimumWidth(width);
+  resize(width, sizeHint().height());
   connect(this, &QLineEdit::returnPressed, this, [this] {
     if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
       completer()->setCompletionPrefix(text());
@@ -56,12 +58,14 @@ void FindField::focusInEvent(QFocusEvent* event) {
 
 void FindField::buildList() {
   auto* const model = new QStandardItemModel(this);
+  int width = 0;
   for (std::size_t place = 0; place < places_.size(); ++place) {
     const SettingWidget& entry = places_[place];
     auto* const item = new QStandardItem(tr("%1 — %2").arg(entry.title, tabOf_(entry)));
     item->setData(entry.title + QLatin1Char('\n') + entry.widget->whatsThis(), searchedRole);
     item->setData(static_cast<qulonglong>(place), placeRole);
     model->appendRow(item);
+    width = std::max(width, fontMetrics().horizontalAdvance(item->text()));
   }
   auto* const list = new SettingCompleter(model, this);
   list->setCompletionRole(searchedRole);
@@ -69,7 +73,7 @@ void FindField::buildList() {
   list->setCaseSensitivity(Qt::CaseInsensitive);
   list->setMaxVisibleItems(12);
   setCompleter(list);
-  list->popup()->setMinimumWidth(list->popup()->sizeHintForColumn(0) + 2 * fontMetrics().height());
+  list->popup()->setMinimumWidth(width + 2 * fontMetrics().height());
   connect(list, qOverload<const QModelIndex&>(&QCompleter::activated), this, &FindField::goTo);
 }
 

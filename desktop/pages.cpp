@@ -11,36 +11,31 @@
 namespace desktop {
 namespace {
 
-// What only helps to find faults in this program: small and at the foot.
+// What only helps to find faults in this program, at the foot.
 QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
   auto* const row = new QHBoxLayout;
   auto* const label = controls.statusLine(volumes.loCalDebug);
   label->setMinimumHeight(0);
-  QWidget* const widgets[] = {
-      label,
+  row->addWidget(label, 1);
+  row->addWidget(
       controls.checkBox(volumes.ronMode, tr("Read the local l&ist"),
                         tr("For finding faults in this program: the table shows the second of two "
-                           "equal lists. You see no difference.")),
+                           "equal lists. You see no difference.")));
+  row->addWidget(
       controls.pushButton(volumes.sheetCreate, tr("Tr&y the save panel…"),
                           tr("For finding faults in this program: shows a panel and writes the "
-                             "chosen place to standard output. Nothing is made."))};
-  for (QWidget* const widget : widgets) {
-    QFont small = widget->font();
-    small.setPointSizeF(small.pointSizeF() * 0.85);
-    widget->setFont(small);
-    row->addWidget(widget, widget == label ? 1 : 0);
-  }
+                             "chosen place to standard output. Nothing is made.")));
   return row;
 }
 
 }  // namespace
 
-QWidget* volumesPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller,
-                     const QString& images) {
-  volumes::VolumeTable& volumes = controller.volumes;
-  editor::SharedFolderGroup& shared = controller.sharedFolder;
+QWidget* volumesPage(const PageContext& context) {
+  Controls& controls = context.controls;
+  volumes::VolumeTable& volumes = context.controller.volumes;
+  editor::SharedFolderGroup& shared = context.controller.sharedFolder;
 
-  auto* const table = new VolumeView(volumes, images);
+  auto* const table = new VolumeView(volumes, context.bundle);
   table->setAccessibleName(tr("Disk images"));
   table->setAccessibleDescription(tr("The disk images of the Macintosh, in their order."));
   auto* const title = new QLabel(tr("Disk i&mages:"));
@@ -54,7 +49,7 @@ QWidget* volumesPage(Controls& controls, SettingWidgets& places, editor::ViewCon
       controls.pushButton(volumes.removeVol, tr("Remo&ve"),
                           tr("Takes the selected image off the list. The file stays.")));
   buttons->addWidget(
-      controls.pushButton(controller.bitCreate, tr("New &Blank Image…"),
+      controls.pushButton(context.controller.bitCreate, tr("New &Blank Image…"),
                           tr("Makes an empty disk image. It is not added to the list.")));
   buttons->addStretch();
 
@@ -63,7 +58,7 @@ QWidget* volumesPage(Controls& controls, SettingWidgets& places, editor::ViewCon
   layout->addWidget(title);
   layout->addWidget(table, 1);
   layout->addLayout(buttons);
-  PageBuilder builder(controls, places);
+  PageBuilder builder(controls, context.places);
   builder.field(
       shared.unixRootPath, tr("Shared fol&der:"),
       controls.pushButton(shared.unixRoot, tr("Ch&oose…"), tr("Chooses the shared folder.")));
@@ -72,23 +67,22 @@ QWidget* volumesPage(Controls& controls, SettingWidgets& places, editor::ViewCon
   return page;
 }
 
-QWidget* scsiPage(Controls& controls, editor::ViewController& controller) {
+QWidget* scsiPage(const PageContext& context) {
   auto* const page = new QWidget;
   auto* const layout = new QVBoxLayout(page);
-  layout->addWidget(
-      controls.checkBox(controller.tabs.scsiID0, tr("SCSI &ID 0"),
-                        tr("A mark for yourself while the window is open. It is not saved.")));
+  layout->addWidget(context.controls.checkBox(
+      context.controller.tabs.scsiID0, tr("SCSI &ID 0"),
+      tr("A mark for yourself while the window is open. It is not saved.")));
   layout->addStretch();
   return page;
 }
 
-QWidget* machinePage(Controls& controls, SettingWidgets& places,
-                     editor::ViewController& controller) {
-  editor::MachineGroup& machine = controller.machine;
-  PageBuilder page(controls, places);
-  page.field(
-      machine.romFile, tr("&ROM file:"),
-      controls.pushButton(machine.browseROM.button, tr("Bro&wse…"), tr("Chooses the ROM file.")));
+QWidget* machinePage(const PageContext& context) {
+  editor::MachineGroup& machine = context.controller.machine;
+  PageBuilder page(context.controls, context.places);
+  page.field(machine.romFile, tr("&ROM file:"),
+             context.controls.pushButton(machine.browseROM.button, tr("Bro&wse…"),
+                                         tr("Chooses the ROM file.")));
   page.choice(machine.stateStart, tr("&Boot drive:"));
   page.combo(machine.ramSizeMB, tr("RA&M size (MB):"));
   page.choice(machine.modelID, tr("M&odel:"));
@@ -97,21 +91,20 @@ QWidget* machinePage(Controls& controls, SettingWidgets& places,
   return page.page();
 }
 
-QWidget* displayPage(Controls& controls, SettingWidgets& places,
-                     editor::ViewController& controller) {
-  editor::ScreenSetting& screen = controller.display.screen;
+QWidget* displayPage(const PageContext& context) {
+  editor::ScreenSetting& screen = context.controller.display.screen;
   const QString help = helpOf(screen);
-  PageBuilder page(controls, places);
-  page.row(screen, tr("Screen &mode:"), controls.popUpButton(screen.screenType, help));
-  page.row(screen, tr("&Width:"), controls.comboBox(screen.screenWidth, help));
-  page.row(screen, tr("Hei&ght:"), controls.comboBox(screen.screenHeight, help));
-  page.choice(controller.display.refreshRate, tr("Refresh r&ate:"));
+  PageBuilder page(context.controls, context.places);
+  page.row(screen, tr("Screen &mode:"), context.controls.popUpButton(screen.screenType, help));
+  page.row(screen, tr("&Width:"), context.controls.comboBox(screen.screenWidth, help));
+  page.row(screen, tr("Hei&ght:"), context.controls.comboBox(screen.screenHeight, help));
+  page.choice(context.controller.display.refreshRate, tr("Refresh r&ate:"));
   return page.page();
 }
 
-QWidget* soundPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller) {
-  editor::InputGroup& input = controller.input;
-  PageBuilder page(controls, places);
+QWidget* soundPage(const PageContext& context) {
+  editor::InputGroup& input = context.controller.input;
+  PageBuilder page(context.controls, context.places);
   page.heading(tr("Sound"));
   page.check(input.disableSound, tr("&Disable sound"));
   page.field(input.audioOut, tr("&Output device:"));
@@ -119,18 +112,17 @@ QWidget* soundPage(Controls& controls, SettingWidgets& places, editor::ViewContr
   page.heading(tr("Keyboard"));
   page.check(input.rawKeys, tr("Use raw &key codes"));
   page.field(input.rawKeyFile, tr("Ke&y code file:"),
-             controls.pushButton(input.rawKeyFileSelect.button, tr("&Browse…"),
-                                 tr("Chooses the key code file.")));
+             context.controls.pushButton(input.rawKeyFileSelect.button, tr("&Browse…"),
+                                         tr("Chooses the key code file.")));
   page.heading(tr("Mouse"));
   page.choice(input.mouseWheel, tr("Mouse &wheel:"));
   page.steps(input.mouseScroll, tr("L&ines to scroll:"));
   return page.page();
 }
 
-QWidget* networkPage(Controls& controls, SettingWidgets& places,
-                     editor::ViewController& controller) {
-  editor::NetworkGroup& network = controller.network;
-  PageBuilder page(controls, places);
+QWidget* networkPage(const PageContext& context) {
+  editor::NetworkGroup& network = context.controller.network;
+  PageBuilder page(context.controls, context.places);
   for (QComboBox* const box : {page.combo(network.modemPort, tr("&Modem port:")),
                                page.combo(network.printerPort, tr("P&rinter port:")),
                                page.combo(network.etherPort, tr("Network &device:"))}) {
@@ -141,9 +133,9 @@ QWidget* networkPage(Controls& controls, SettingWidgets& places,
   return page.page();
 }
 
-QWidget* jitPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller) {
-  editor::JitGroup& jit = controller.jit;
-  PageBuilder page(controls, places);
+QWidget* jitPage(const PageContext& context) {
+  editor::JitGroup& jit = context.controller.jit;
+  PageBuilder page(context.controls, context.places);
   page.heading(tr("Just-in-time compiler"));
   page.check(jit.enableJIT, tr("Enable the &JIT compiler"));
   page.check(jit.compileFPU, tr("Compile floating-point instr&uctions"));

@@ -8,18 +8,21 @@
 
 namespace desktop {
 
-/// What the tabs hold, a function for each. `places` takes in where each setting went, `images` is
-/// the folder with the pictures.
-QWidget* volumesPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller,
-                     const QString& images);
-QWidget* scsiPage(Controls& controls, editor::ViewController& controller);
-QWidget* machinePage(Controls& controls, SettingWidgets& places,
-                     editor::ViewController& controller);
-QWidget* displayPage(Controls& controls, SettingWidgets& places,
-                     editor::ViewController& controller);
-QWidget* soundPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller);
-QWidget* networkPage(Controls& controls, SettingWidgets& places,
-                     editor::ViewController& controller);
-QWidget* jitPage(Controls& controls, SettingWidgets& places, editor::ViewController& controller);
+/// What a page is made of.
+struct PageContext {
+  Controls& controls;
+  SettingWidgets& places;  // takes in where each setting went
+  editor::ViewController& controller;
+  const platform::Bundle& bundle;  // has the pictures
+};
+
+/// What the tabs hold, a function for each.
+QWidget* volumesPage(const PageContext& context);
+QWidget* scsiPage(const PageContext& context);
+QWidget* machinePage(const PageContext& context);
+QWidget* displayPage(const PageContext& context);
+QWidget* soundPage(const PageContext& context);
+QWidget* networkPage(const PageContext& context);
+QWidget* jitPage(const PageContext& context);
 
 }  // namespace desktop

@@ -10,8 +10,10 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/agreement_sheet.h"
 #include "desktop/create_sheet.h"
@@ -25,7 +27,11 @@ namespace desktop {
 
 SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
                                Edits& edits)
-    : controller_(controller), host_(host), controls_(edits), tabs_(new QTabWidget) {
+    : controller_(controller),
+      host_(host),
+      controls_(edits),
+      tabs_(new QTabWidget),
+      help_(new HelpLine) {
   setObjectName(QLatin1String("settingsWindow"));
   setWindowTitle(tr("Quillon Settings") + QLatin1String("[*]"));
   tabs_->setObjectName(shown(controller.tabs.tabViewC.name()));
@@ -35,14 +41,15 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   auto* const layout = new QVBoxLayout(content);
   layout->addWidget(tabs_, 1);
   setCentralWidget(content);
-  buildPages();
+  layout->addWidget(help_);
+  addPages();
   buildMenus();
   buildShortcuts();
-  auto* const help = new HelpLine;
-  layout->addWidget(help);
   layout->addLayout(fileRow());
   layout->addLayout(buttonRow());
-  help->follow(content);
+  help_->follow(content);
+  fillPage(makers_.front().first, makers_.front().second);
+  connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
   controller.bitCreate.action = [this] { openCreation(); };
   controller.tabs.tabViewC.attach([this] { showTabs(); });
   resize(720, 560);
@@ -52,25 +59,56 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
 
 SettingsWindow::~SettingsWindow() { controller_.tabs.tabViewC.detach(); }
 
-void SettingsWindow::buildPages() {
+void SettingsWindow::addPages() {
   editor::Tabs& tabs = controller_.tabs;
-  const QString images = shown(host_.bundle.path() + "/Contents/Resources");
-  const auto add = [&](const char* identifier, QWidget* page) {
+  const auto add = [&](const char* identifier, PageMaker make) {
     auto* const area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
-    area->setWidget(page);
+    area->setFocusPolicy(Qt::NoFocus);
     // All pages once, so that they belong to the window in this order whether shown or not.
     tabs_->addTab(area, QString());
     pages_[tabs.view(identifier)] = area;
+    makers_.emplace_back(area, make);
   };
-  add("volumesTab", volumesPage(controls_, places_, controller_, images));
-  add("scsiTab", scsiPage(controls_, controller_));
-  add("machineTab", machinePage(controls_, places_, controller_));
-  add("displayTab", displayPage(controls_, places_, controller_));
-  add("soundTab", soundPage(controls_, places_, controller_));
-  add("networkTab", networkPage(controls_, places_, controller_));
-  add("jitTab", jitPage(controls_, places_, controller_));
+  add("volumesTab", &volumesPage);
+  add("scsiTab", &scsiPage);
+  add("machineTab", &machinePage);
+  add("displayTab", &displayPage);
+  add("soundTab", &soundPage);
+  add("networkTab", &networkPage);
+  add("jitTab", &jitPage);
+}
+
+void SettingsWindow::fillPage(QScrollArea* area, PageMaker make) {
+  QWidget* const page = make({controls_, places_, controller_, host_.bundle});
+  area->setWidget(page);
+  // What is made later would come behind everything else.
+  QWidget* before = area;
+  for (QWidget* const widget :
+       page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (widget->focusPolicy() != Qt::NoFocus) {
+      setTabOrder(before, widget);
+      before = widget;
+    }
+  }
+  help_->follow(page);
+}
+
+void SettingsWindow::completePages() {
+  for (const auto& [area, make] : std::exchange(makers_, {})) {
+    if (area->widget() == nullptr) {
+      fillPage(area, make);
+    }
+  }
+}
+
+// A person sees one page first. The others are made once it is on the screen.
+void SettingsWindow::paintEvent(QPaintEvent* event) {
+  QMainWindow::paintEvent(event);
+  if (!makers_.empty()) {
+    QTimer::singleShot(0, this, &SettingsWindow::completePages);
+  }
 }
 
 void SettingsWindow::showTabs() {
@@ -186,7 +224,10 @@ void SettingsWindow::buildShortcuts() {
       [this](const SettingWidget& place) { goTo(place); });
   menuBar()->setCornerWidget(find);
   const auto* const search = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
-  connect(search, &QShortcut::activated, find, [find] { find->setFocus(Qt::ShortcutFocusReason); });
+  connect(search, &QShortcut::activated, find, [this, find] {
+    completePages();
+    find->setFocus(Qt::ShortcutFocusReason);
+  });
   for (int number = 1; number <= static_cast<int>(pages_.size()); ++number) {
     auto* const shortcut = new QShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number), this);
     connect(shortcut, &QShortcut::activated, this, [this, number] {

@@ -2,10 +2,15 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <map>
+#include <utility>
+#include <vector>
 
 #include "desktop/controls.h"
+#include "desktop/help_line.h"
+#include "desktop/pages.h"
 #include "desktop/setting_widgets.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
@@ -22,11 +27,18 @@ class SettingsWindow : public QMainWindow {
   SettingsWindow(const SettingsWindow&) = delete;
   SettingsWindow& operator=(const SettingsWindow&) = delete;
 
+  /// Makes the pages that there was no time for before the window was shown.
+  void completePages();
+
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void buildPages();
+  using PageMaker = QWidget* (*)(const PageContext&);
+
+  void addPages();
+  void fillPage(QScrollArea* area, PageMaker make);
   void buildMenus();
   void buildShortcuts();
   [[nodiscard]] QLayout* fileRow();
@@ -47,6 +59,8 @@ class SettingsWindow : public QMainWindow {
   Controls controls_;
   platform::Window delegate_;
   QTabWidget* tabs_;
+  HelpLine* help_;
+  std::vector<std::pair<QScrollArea*, PageMaker>> makers_;  // of the pages that are still to come
   QAction* start_ = nullptr;
   QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;

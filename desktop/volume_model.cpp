@@ -10,8 +10,8 @@ namespace desktop {
 using platform::DragOperation;
 using platform::DropOperation;
 
-VolumeModel::VolumeModel(platform::TableView& table, QString imageFolder, QObject* parent)
-    : QAbstractTableModel(parent), table_(table), imageFolder_(std::move(imageFolder)) {}
+VolumeModel::VolumeModel(platform::TableView& table, platform::Bundle images, QObject* parent)
+    : QAbstractTableModel(parent), table_(table), images_(std::move(images)) {}
 
 void VolumeModel::reload() {
   beginResetModel();
@@ -35,7 +35,7 @@ const platform::TableCell* VolumeModel::cell(const QModelIndex& index) const {
 
 QIcon VolumeModel::image(const std::string& name) const {
   if (icon_.isNull()) {
-    icon_ = QIcon(imageFolder_ + QLatin1Char('/') + shown(name));
+    icon_ = QIcon(shown(images_.resource(name)));
   }
   return icon_;
 }

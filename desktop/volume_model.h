@@ -6,6 +6,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "platform/bundle.h"
 #include "platform/table_view.h"
 
 namespace desktop {
@@ -16,8 +17,8 @@ class VolumeModel : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  /// `imageFolder` holds the pictures that cells name.
-  VolumeModel(platform::TableView& table, QString imageFolder, QObject* parent);
+  /// `images` has the pictures that cells name.
+  VolumeModel(platform::TableView& table, platform::Bundle images, QObject* parent);
 
   void reload();
 
@@ -42,7 +43,7 @@ class VolumeModel : public QAbstractTableModel {
   [[nodiscard]] QIcon image(const std::string& name) const;
 
   platform::TableView& table_;
-  QString imageFolder_;
+  platform::Bundle images_;
   int rows_ = 0;
   mutable std::unordered_map<int, Row> cells_;
   mutable QIcon icon_;

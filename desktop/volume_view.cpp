@@ -12,8 +12,8 @@
 
 namespace desktop {
 
-VolumeView::VolumeView(volumes::VolumeTable& volumes, const QString& imageFolder)
-    : volumes_(volumes), model_(volumes.tableView, imageFolder, this) {
+VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images)
+    : volumes_(volumes), model_(volumes.tableView, images, this) {
   setObjectName(shown(volumes.tableView.name()));
   setModel(&model_);
   setSelectionBehavior(SelectRows);

@@ -3,6 +3,7 @@
 #include <QTableView>
 
 #include "desktop/volume_model.h"
+#include "platform/bundle.h"
 #include "volumes/volume_table.h"
 
 namespace desktop {
@@ -12,7 +13,7 @@ class VolumeView : public QTableView {
   Q_OBJECT
 
  public:
-  VolumeView(volumes::VolumeTable& volumes, const QString& imageFolder);
+  VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images);
   ~VolumeView() override;
   VolumeView(const VolumeView&) = delete;
   VolumeView& operator=(const VolumeView&) = delete;
