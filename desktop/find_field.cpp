@@ -36,9 +36,6 @@ FindField::FindField(const SettingWidgets& places,
   setWhatsThis(toolTip());
   setAccessibleDescription(toolTip());
   setClearButtonEnabled(true);
-  const int width = fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height();
-  setMinimumWidth(width);
-  resize(width, sizeHint().height());
   connect(this, &QLineEdit::returnPressed, this, [this] {
     if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
       completer()->setCompletionPrefix(text());
@@ -46,6 +43,14 @@ FindField::FindField(const SettingWidgets& places,
     }
   });
 }
+
+// A menu bar gives a widget at its end the size that this asks for, and no other.
+QSize FindField::sizeHint() const {
+  const int width = fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height();
+  return {width, QLineEdit::sizeHint().height()};
+}
+
+QSize FindField::minimumSizeHint() const { return sizeHint(); }
 
 // Only who searches needs the list.
 void FindField::focusInEvent(QFocusEvent* event) {

@@ -19,6 +19,9 @@ class FindField : public QLineEdit {
   FindField(const SettingWidgets& places, std::function<QString(const SettingWidget&)> tabOf,
             std::function<void(const SettingWidget&)> go);
 
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
  protected:
   void focusInEvent(QFocusEvent* event) override;
 

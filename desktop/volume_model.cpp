@@ -1,6 +1,7 @@
 #include "desktop/volume_model.h"
 
 #include <QMimeData>
+#include <set>
 #include <utility>
 
 #include "desktop/texts.h"
@@ -78,18 +79,21 @@ QStringList VolumeModel::mimeTypes() const {
   return types;
 }
 
-// One piece of data stands for all rows, a line for each.
+// One piece of data stands for all rows, a line for each, in their order in the table and not in
+// that of the selection.
 QMimeData* VolumeModel::mimeData(const QModelIndexList& indexes) const {
-  QByteArray rows;
+  std::set<int> rows;
   for (const QModelIndex& index : indexes) {
-    if (index.column() == 0) {
-      rows += QByteArray::fromStdString(
-          table_.dataSource->pasteboardWriterForRow(static_cast<std::size_t>(index.row())));
-      rows += '\n';
-    }
+    rows.insert(index.row());
+  }
+  QByteArray lines;
+  for (const int row : rows) {
+    lines += QByteArray::fromStdString(
+        table_.dataSource->pasteboardWriterForRow(static_cast<std::size_t>(row)));
+    lines += '\n';
   }
   auto* const data = new QMimeData;
-  data->setData(mimeTypes().constFirst(), rows);
+  data->setData(mimeTypes().constFirst(), lines);
   return data;
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/volume_view.h"
 
 #include <QDragMoveEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -109,6 +110,11 @@ void VolumeView::keyPressEvent(QKeyEvent* event) {
 void VolumeView::dragMoveEvent(QDragMoveEvent* event) {
   hovered_ = indexAt(event->position().toPoint());
   QTableView::dragMoveEvent(event);
+}
+
+// Qt's table would move the rows itself and is content when one of them stands in place already.
+void VolumeView::dropEvent(QDropEvent* event) {
+  QAbstractItemView::dropEvent(event);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 void VolumeView::paintEvent(QPaintEvent* event) {
