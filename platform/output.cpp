@@ -35,7 +35,8 @@ void BufferOutput::write(std::initializer_list<std::string_view> parts) {
   }
 }
 
-DescriptorOutput::DescriptorOutput(int descriptor) : descriptor_(descriptor) {
+DescriptorOutput::DescriptorOutput(int descriptor)
+    : descriptor_(descriptor), terminal_(openTerminal(descriptor)) {
   struct stat status {};
   // The null device takes everything at once, whatever its size; a file never makes a writer wait.
   mayBlock_ = ::fstat(descriptor, &status) == 0 && !S_ISREG(status.st_mode) &&
@@ -61,8 +62,7 @@ void DescriptorOutput::write(std::initializer_list<std::string_view> parts) {
 }
 
 bool DescriptorOutput::send(std::string_view part) {
-  const Descriptor terminal = mayBlock_ ? openTerminal(descriptor_) : Descriptor();
-  const int target = terminal.isOpen() ? terminal.get() : descriptor_;
+  const int target = terminal_.isOpen() ? terminal_.get() : descriptor_;
   for (int pauses = patienceMilliseconds / pauseMilliseconds; !part.empty();) {
     std::size_t length = part.size();
     if (mayBlock_) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/descriptor.h"
+
 namespace platform {
 
 /// Where the diagnostic lines go: standard output in the program, a buffer in tests.
@@ -44,6 +46,7 @@ class DescriptorOutput : public Output {
   bool send(std::string_view part);
 
   int descriptor_;
+  Descriptor terminal_;  // the same, opened not to wait, where it is a terminal
   bool mayBlock_;
   bool broken_ = false;
 };

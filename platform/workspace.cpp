@@ -75,7 +75,6 @@ bool startDetached(std::vector<std::string> command, const std::string& folder) 
   }
   std::vector<char*> arguments;
   arguments.reserve(command.size() + 1);
-  arguments.reserve(command.size() + 1);
   for (std::string& word : command) {
     arguments.push_back(word.data());
   }
@@ -124,7 +123,7 @@ std::string executableOf(const std::string& application) {
   const std::filesystem::path programs = bundle / "Contents" / "MacOS";
   if (const auto info = PropertyList::read(bundle / "Contents" / "Info.plist", error)) {
     const auto name = info->text("CFBundleExecutable");
-    if (name && !name->empty() && name->find('/') == std::string::npos) {
+    if (name && name->find('/') == std::string::npos && isExecutableFile(programs / *name)) {
       return programs / *name;
     }
   }
