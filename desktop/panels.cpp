@@ -1,6 +1,10 @@
 #include "desktop/panels.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLayout>
 #include <memory>
@@ -34,19 +38,50 @@ void setTypes(QFileDialog& dialog, const std::vector<std::string>& types) {
   dialog.setOption(QFileDialog::HideNameFilterDetails);
 }
 
+// Chooses a folder or a file. Qt's own dialog knows no such mode: in that for folders it shows
+// files and only refuses to take them.
+class AnyDialog : public QFileDialog {
+ public:
+  AnyDialog(QWidget* window, const QString& title) : QFileDialog(window, title) {
+    connect(this, &QFileDialog::currentChanged, this, &AnyDialog::allowFile, Qt::QueuedConnection);
+  }
+
+ protected:
+  void accept() override {
+    const QStringList files = selectedFiles();
+    if (files.size() == 1 && QFileInfo(files.front()).isFile()) {
+      QDialog::accept();
+    } else {
+      QFileDialog::accept();
+    }
+  }
+
+ private:
+  void allowFile(const QString& path) {
+    const auto* const buttons = findChild<QDialogButtonBox*>();
+    if (buttons != nullptr && QFileInfo(path).isFile()) {
+      for (QAbstractButton* const button : buttons->buttons()) {
+        button->setEnabled(true);
+      }
+    }
+  }
+};
+
+template <typename Dialog = QFileDialog>
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
-  auto dialog = std::make_unique<QFileDialog>(window, shown(title));
+  auto dialog = std::make_unique<Dialog>(window, shown(title));
   // Qt's own dialog matches endings without regard to case; those of some desktops do not.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   return dialog;
 }
 
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPanel& panel) {
-  auto dialog = makeDialog(window, panel.title);
+  const bool both = panel.canChooseDirectories && panel.canChooseFiles;
+  auto dialog = both ? makeDialog<AnyDialog>(window, panel.title) : makeDialog(window, panel.title);
   dialog->setAcceptMode(QFileDialog::AcceptOpen);
-  if (panel.canChooseDirectories && !panel.canChooseFiles) {
+  if (panel.canChooseDirectories) {
     dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setOption(QFileDialog::ShowDirsOnly, !both);
   } else {
     dialog->setFileMode(panel.allowsMultipleSelection ? QFileDialog::ExistingFiles
                                                       : QFileDialog::ExistingFile);
@@ -77,21 +112,27 @@ void begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
 
 }  // namespace
 
+// The window in which a person asked for the panel.
+QWidget* Panels::front() const {
+  QWidget* const active = QApplication::activeWindow();
+  return active != nullptr ? active : window_;
+}
+
 std::vector<Location> Panels::runModal(const platform::OpenPanel& panel) {
-  const auto dialog = makeDialog(window_, panel);
+  const auto dialog = makeDialog(front(), panel);
   return dialog->exec() == QDialog::Accepted ? locationsOf(*dialog) : std::vector<Location>();
 }
 
 void Panels::begin(const platform::OpenPanel& panel, Chosen completion) {
-  desktop::begin(makeDialog(window_, panel), Qt::NonModal, std::move(completion));
+  desktop::begin(makeDialog(front(), panel), Qt::NonModal, std::move(completion));
 }
 
 void Panels::beginSheet(const platform::OpenPanel& panel, Chosen completion) {
-  desktop::begin(makeDialog(window_, panel), Qt::WindowModal, std::move(completion));
+  desktop::begin(makeDialog(front(), panel), Qt::WindowModal, std::move(completion));
 }
 
 void Panels::beginSheet(const platform::SavePanel& panel, Chosen completion) {
-  auto dialog = makeDialog(window_, panel.title);
+  auto dialog = makeDialog(front(), panel.title);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
   setTypes(*dialog, panel.allowedFileTypes);

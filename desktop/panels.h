@@ -6,9 +6,10 @@
 
 namespace desktop {
 
-/// Panels as Qt's file dialogs, above a window that is named later.
+/// Panels as Qt's file dialogs, above the window in use.
 class Panels : public platform::Panels {
  public:
+  /// `window` is the one that panels belong to when none is in use.
   void setWindow(QWidget* window) { window_ = window; }
 
   std::vector<platform::Location> runModal(const platform::OpenPanel& panel) override;
@@ -17,6 +18,8 @@ class Panels : public platform::Panels {
   void beginSheet(const platform::SavePanel& panel, Chosen completion) override;
 
  private:
+  [[nodiscard]] QWidget* front() const;
+
   QWidget* window_ = nullptr;
 };
 

@@ -112,7 +112,8 @@ void VolumeView::dragMoveEvent(QDragMoveEvent* event) {
   QTableView::dragMoveEvent(event);
 }
 
-// Qt's table would move the rows itself and is content when one of them stands in place already.
+// The table of later versions of Qt would move the rows by itself, and none of them when the first
+// stands in its place already.
 void VolumeView::dropEvent(QDropEvent* event) {
   QAbstractItemView::dropEvent(event);  // NOLINT(bugprone-parent-virtual-call)
 }
