@@ -1,6 +1,5 @@
 #include "desktop/settings_window.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -16,6 +15,7 @@
 #include <utility>
 
 #include "desktop/agreement_sheet.h"
+#include "desktop/change_marks.h"
 #include "desktop/create_sheet.h"
 #include "desktop/find_field.h"
 #include "desktop/help_line.h"
@@ -49,11 +49,11 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   layout->addLayout(buttonRow());
   help_->follow(content);
   fillPage(makers_.front().first, makers_.front().second);
-  connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
   controller.bitCreate.action = [this] { openCreation(); };
   controller.tabs.tabViewC.attach([this] { showTabs(); });
+  connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
   resize(720, 560);
-  buildMarks();
+  new ChangeMarks(controller, places_, *this);
   controller.viewWillAppear(delegate_);
 }
 
@@ -251,38 +251,6 @@ int SettingsWindow::tabOf(const SettingWidget& place) const {
 void SettingsWindow::goTo(const SettingWidget& place) {
   tabs_->setCurrentIndex(tabOf(place));
   place.widget->setFocus(Qt::ShortcutFocusReason);
-}
-
-// What is changed is found by comparing, each time that the program has done something and is about
-// to wait or to go on.
-void SettingsWindow::buildMarks() {
-  volumesLabel_ = findChild<QWidget*>(QLatin1String("volumesLabel"));
-  const auto* const dispatcher = QAbstractEventDispatcher::instance();
-  for (const auto signal :
-       {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
-    connect(dispatcher, signal, this, &SettingsWindow::updateMarks);
-  }
-}
-
-void SettingsWindow::updateMarks() {
-  const auto changed = controller_.changedKeys();
-  const auto mark = [](QWidget* label, bool isChanged) {
-    if (label->font().bold() != isChanged) {
-      QFont font = label->font();
-      font.setBold(isChanged);
-      label->setFont(font);
-    }
-  };
-  for (const SettingWidget& place : places_) {
-    // Some controls show more than one key.
-    const auto& control = document::rowOf(place.setting->key()).control;
-    mark(place.label, std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
-           return document::rowOf(key).control == control;
-         }));
-  }
-  const bool volumesChanged = controller_.volumesChanged();
-  mark(volumesLabel_, volumesChanged);
-  setWindowModified(!changed.empty() || volumesChanged);
 }
 
 void SettingsWindow::openPreferences() {

@@ -44,8 +44,6 @@ class SettingsWindow : public QMainWindow {
   [[nodiscard]] QLayout* fileRow();
   [[nodiscard]] QLayout* buttonRow();
   void showTabs();
-  void buildMarks();
-  void updateMarks();
   void goTo(const SettingWidget& place);
   [[nodiscard]] int tabOf(const SettingWidget& place) const;
   void showStart(QPushButton* button);
@@ -65,7 +63,6 @@ class SettingsWindow : public QMainWindow {
   QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;
   SettingWidgets places_;
-  QWidget* volumesLabel_ = nullptr;
 };
 
 }  // namespace desktop

@@ -1,0 +1,44 @@
+#include "desktop/change_marks.h"
+
+#include <QAbstractEventDispatcher>
+#include <QFont>
+#include <algorithm>
+
+namespace desktop {
+namespace {
+
+void mark(QWidget* label, bool isChanged) {
+  if (label != nullptr && label->font().bold() != isChanged) {
+    QFont font = label->font();
+    font.setBold(isChanged);
+    label->setFont(font);
+  }
+}
+
+}  // namespace
+
+ChangeMarks::ChangeMarks(const editor::ViewController& controller, const SettingWidgets& places,
+                         QWidget& window)
+    : QObject(&window), controller_(controller), places_(places), window_(window) {
+  const auto* const dispatcher = QAbstractEventDispatcher::instance();
+  for (const auto signal :
+       {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
+    connect(dispatcher, signal, this, &ChangeMarks::update);
+  }
+}
+
+void ChangeMarks::update() {
+  const auto changed = controller_.changedKeys();
+  for (const SettingWidget& place : places_) {
+    // Some controls show more than one key.
+    const auto& control = document::rowOf(place.setting->key()).control;
+    mark(place.label, std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
+           return document::rowOf(key).control == control;
+         }));
+  }
+  const bool volumesChanged = controller_.volumesChanged();
+  mark(window_.findChild<QWidget*>(QLatin1String("volumesLabel")), volumesChanged);
+  window_.setWindowModified(!changed.empty() || volumesChanged);
+}
+
+}  // namespace desktop

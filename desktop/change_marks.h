@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include "desktop/setting_widgets.h"
+#include "editor/view_controller.h"
+
+namespace desktop {
+
+/// Shows what a save would change: the labels of the settings in bold, a mark in the window's
+/// title. It is found by comparing, each time that the program has done something and is about to
+/// wait or to go on.
+class ChangeMarks : public QObject {
+  Q_OBJECT
+
+ public:
+  ChangeMarks(const editor::ViewController& controller, const SettingWidgets& places,
+              QWidget& window);
+
+ private:
+  void update();
+
+  const editor::ViewController& controller_;
+  const SettingWidgets& places_;
+  QWidget& window_;
+};
+
+}  // namespace desktop
