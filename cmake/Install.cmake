@@ -3,14 +3,17 @@
 # The places are fixed because the link to the program is relative.
 set(packageName quillon-settings)
 
-# Everything but the program comes from the sources: the built bundle holds the settings of whoever
-# tried it.
+# Resources come from the sources: the built bundle holds the settings of whoever tried it.
+file(GLOB languages CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/resources/translations
+     ${CMAKE_SOURCE_DIR}/resources/translations/*.ts)
+list(TRANSFORM languages REPLACE "(.*)\\.ts" "${contents}/Resources/\\1.qm")
 function(install_bundle folder)
   install(TARGETS quillon-settings RUNTIME DESTINATION ${folder}/Contents/MacOS ${ARGN})
   install(FILES ${contents}/Info.plist DESTINATION ${folder}/Contents ${ARGN})
   foreach(resource ${resources})
     install(FILES resources/${resource} DESTINATION ${folder}/Contents/Resources ${ARGN})
   endforeach()
+  install(FILES ${languages} DESTINATION ${folder}/Contents/Resources ${ARGN})
 endfunction()
 
 function(install_link target folder)
@@ -78,5 +81,5 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION otherosfs)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 include(CPack)

@@ -8,7 +8,7 @@ namespace desktop {
 namespace {
 
 void mark(QWidget* label, bool isChanged) {
-  if (label != nullptr && label->font().bold() != isChanged) {
+  if (label->font().bold() != isChanged) {
     QFont font = label->font();
     font.setBold(isChanged);
     label->setFont(font);
@@ -19,7 +19,11 @@ void mark(QWidget* label, bool isChanged) {
 
 ChangeMarks::ChangeMarks(const editor::ViewController& controller, const SettingWidgets& places,
                          QWidget& window)
-    : QObject(&window), controller_(controller), places_(places), window_(window) {
+    : QObject(&window),
+      controller_(controller),
+      places_(places),
+      window_(window),
+      volumesLabel_(window.findChild<QWidget*>(QLatin1String("volumesLabel"))) {
   const auto* const dispatcher = QAbstractEventDispatcher::instance();
   for (const auto signal :
        {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
@@ -37,7 +41,7 @@ void ChangeMarks::update() {
          }));
   }
   const bool volumesChanged = controller_.volumesChanged();
-  mark(window_.findChild<QWidget*>(QLatin1String("volumesLabel")), volumesChanged);
+  mark(volumesLabel_, volumesChanged);
   window_.setWindowModified(!changed.empty() || volumesChanged);
 }
 

@@ -15,6 +15,7 @@ class ChangeMarks : public QObject {
   Q_OBJECT
 
  public:
+  /// `window` has the page with the volumes already.
   ChangeMarks(const editor::ViewController& controller, const SettingWidgets& places,
               QWidget& window);
 
@@ -24,6 +25,7 @@ class ChangeMarks : public QObject {
   const editor::ViewController& controller_;
   const SettingWidgets& places_;
   QWidget& window_;
+  QWidget* volumesLabel_;
 };
 
 }  // namespace desktop

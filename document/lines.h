@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,7 +12,7 @@ namespace document {
 class Lines {
  public:
   Lines() = default;
-  explicit Lines(std::string text) : text_(std::move(text)) {}
+  explicit Lines(std::string text);
 
   /// The first line that contains `part` anywhere. `part` is not empty and holds no line feed.
   [[nodiscard]] std::optional<std::string_view> firstContaining(std::string_view part) const;
@@ -22,8 +23,13 @@ class Lines {
  private:
   [[nodiscard]] std::optional<std::string_view> nextContaining(std::string_view part,
                                                                std::size_t from) const;
+  [[nodiscard]] std::size_t earliest(std::string_view part) const;
+  void noteWordEnds();
 
   std::string text_;
+  // Where, by a hash of its last bytes, a word with a blank behind it ends first. Only large texts
+  // have it.
+  std::vector<std::size_t> wordEnds_;
 };
 
 }  // namespace document

@@ -5,817 +5,817 @@
     <name>Help</name>
     <message>
         <source>off</source>
-        <translation type="unfinished"></translation>
+        <translation>aus</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>ein</translation>
     </message>
     <message>
         <source>A folder of this computer that appears as a disk inside the emulated Macintosh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner dieses Computers, der im emulierten Macintosh als Laufwerk erscheint.</translation>
     </message>
     <message>
         <source>as a path</source>
-        <translation type="unfinished"></translation>
+        <translation>als Pfad</translation>
     </message>
     <message>
         <source>Whether the Macintosh screen is shown in a window or fills the screen, and how large it is. &quot;Maximum&quot; takes all the room there is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Macintosh-Bildschirm in einem Fenster oder im Vollbild erscheint und wie groß er ist. „Maximum“ nutzt den ganzen Platz.</translation>
     </message>
     <message>
         <source>as type/width/height, in pixels, 0 for the maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>als Typ/Breite/Höhe in Pixeln, 0 für das Maximum</translation>
     </message>
     <message>
         <source>The device or program that the modem port is connected to. Leave it empty for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät oder Programm, mit dem der Modemanschluss verbunden ist. Leer bedeutet: mit keinem.</translation>
     </message>
     <message>
         <source>The device or program that the printer port is connected to. Leave it empty for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät oder Programm, mit dem der Druckeranschluss verbunden ist. Leer bedeutet: mit keinem.</translation>
     </message>
     <message>
         <source>How the Macintosh reaches the network: &quot;slirp&quot; needs no set-up, or the name of a network device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie der Macintosh ins Netzwerk kommt: „slirp“, das keine Einrichtung braucht, oder der Name eines Netzwerkgeräts.</translation>
     </message>
     <message>
         <source>Sends network packets to other emulators on the local network through UDP.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sendet Netzwerkpakete über UDP an andere Emulatoren im lokalen Netzwerk.</translation>
     </message>
     <message>
         <source>as true or false</source>
-        <translation type="unfinished"></translation>
+        <translation>als true oder false</translation>
     </message>
     <message>
         <source>The UDP port of the tunnel. All emulators that are to meet need the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der UDP-Port des Tunnels. Er muss bei allen Emulatoren gleich sein, die sich treffen sollen.</translation>
     </message>
     <message>
         <source>as a number from 1 to 65535</source>
-        <translation type="unfinished"></translation>
+        <translation>als Zahl von 1 bis 65535</translation>
     </message>
     <message>
         <source>The file with the ROM of a Macintosh. The emulator cannot start without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei mit dem ROM eines Macintosh. Ohne sie kann der Emulator nicht starten.</translation>
     </message>
     <message>
         <source>The drive that the Macintosh tries to start from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laufwerk, von dem der Macintosh zu starten versucht.</translation>
     </message>
     <message>
         <source>as 0 for any drive, or 1</source>
-        <translation type="unfinished"></translation>
+        <translation>als 0 für ein beliebiges Laufwerk oder 1</translation>
     </message>
     <message>
         <source>The memory of the Macintosh in megabytes. Old systems may not start with very much of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher des Macintosh in Megabyte. Alte Systeme starten mit sehr viel Speicher unter Umständen nicht.</translation>
     </message>
     <message>
         <source>in bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>in Byte</translation>
     </message>
     <message>
         <source>How often the Macintosh screen is drawn. Lower rates leave more time for the processor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft der Macintosh-Bildschirm gezeichnet wird. Niedrigere Raten lassen dem Prozessor mehr Zeit.</translation>
     </message>
     <message>
         <source>as frames per drawing, 0 for dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>als Zahl der Bilder je Zeichenvorgang, 0 für dynamisch</translation>
     </message>
     <message>
         <source>The model that the Macintosh says it is. Mac OS 8 needs the Quadra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modell, als das sich der Macintosh ausgibt. Mac OS 8 benötigt den Quadra.</translation>
     </message>
     <message>
         <source>as a model number</source>
-        <translation type="unfinished"></translation>
+        <translation>als Modellnummer</translation>
     </message>
     <message>
         <source>The processor of the Macintosh, with or without floating-point unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Prozessor des Macintosh, mit oder ohne Gleitkommaeinheit.</translation>
     </message>
     <message>
         <source>with fpu, as the last digits of 680x0</source>
-        <translation type="unfinished"></translation>
+        <translation>zusammen mit „fpu“, als Ziffer x in 680x0</translation>
     </message>
     <message>
         <source>Whether the processor has a floating-point unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Prozessor eine Gleitkommaeinheit hat.</translation>
     </message>
     <message>
         <source>Takes the CD-ROM drive out of the Macintosh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt das CD-ROM-Laufwerk aus dem Macintosh.</translation>
     </message>
     <message>
         <source>Keeps the Macintosh silent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet den Macintosh stumm.</translation>
     </message>
     <message>
         <source>Translates the Macintosh&apos;s programs for this computer&apos;s processor as they run. Much faster; needs a 68020 or later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersetzt die Programme des Macintosh während der Ausführung für den Prozessor dieses Computers. Viel schneller; erfordert mindestens einen 68020.</translation>
     </message>
     <message>
         <source>Translates floating-point instructions, too. Faster, a little less exact.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersetzt auch Gleitkommabefehle. Schneller, aber etwas ungenauer.</translation>
     </message>
     <message>
         <source>The memory for translated programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher für übersetzte Programme.</translation>
     </message>
     <message>
         <source>in KB</source>
-        <translation type="unfinished"></translation>
+        <translation>in KB</translation>
     </message>
     <message>
         <source>Throws translated programs away only when they are really no longer valid. Faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwirft übersetzte Programme erst, wenn sie wirklich nicht mehr gültig sind. Schneller.</translation>
     </message>
     <message>
         <source>Translates across jumps that always lead to the same place. Faster.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersetzt über Sprünge hinweg, die immer zum selben Ziel führen. Schneller.</translation>
     </message>
     <message>
         <source>Tells keys apart by their place on the keyboard, through a table in a file, and not by their letter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterscheidet Tasten nach ihrer Lage auf der Tastatur, anhand einer Tabelle in einer Datei, und nicht nach ihrem Buchstaben.</translation>
     </message>
     <message>
         <source>The file with the table of key codes. Used only with raw key codes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei mit der Tabelle der Tastencodes. Sie wird nur mit rohen Tastencodes verwendet.</translation>
     </message>
     <message>
         <source>Which keys a turn of the mouse wheel presses inside the Macintosh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Tasten das Drehen des Mausrads im Macintosh drückt.</translation>
     </message>
     <message>
         <source>as 0 for pages, 1 for the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>als 0 für Bild auf/ab, 1 für Pfeil auf/ab</translation>
     </message>
     <message>
         <source>How many lines one step of the mouse wheel scrolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viele Zeilen ein Schritt des Mausrads scrollt.</translation>
     </message>
     <message>
         <source>as a number</source>
-        <translation type="unfinished"></translation>
+        <translation>als Zahl</translation>
     </message>
     <message>
         <source>The device that sound goes to. Leave it empty for the usual one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät, auf dem der Ton ausgegeben wird. Leer bedeutet: das übliche.</translation>
     </message>
     <message>
         <source>The device that sets the loudness. Leave it empty for the usual one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät, das die Lautstärke regelt. Leer bedeutet: das übliche.</translation>
     </message>
     <message>
         <source>Lets the Macintosh go on when a program reaches for memory that is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt den Macintosh weiterlaufen, wenn ein Programm auf nicht vorhandenen Speicher zugreift.</translation>
     </message>
     <message>
         <source>Rests while the Macintosh has nothing to do and saves this computer&apos;s energy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausiert, solange der Macintosh nichts zu tun hat, und spart so Energie auf diesem Computer.</translation>
     </message>
 </context>
 <context>
     <name>Items</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>Page up / page down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auf / Bild ab</translation>
     </message>
     <message>
         <source>Cursor up / down</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeil auf / Pfeil ab</translation>
     </message>
     <message>
         <source>Any drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Beliebiges Laufwerk</translation>
     </message>
     <message>
         <source>Drive 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk 1</translation>
     </message>
     <message>
         <source>68020 with FPU</source>
-        <translation type="unfinished"></translation>
+        <translation>68020 mit FPU</translation>
     </message>
     <message>
         <source>68030 with FPU</source>
-        <translation type="unfinished"></translation>
+        <translation>68030 mit FPU</translation>
     </message>
     <message>
         <source>Volumes</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenträger</translation>
     </message>
     <message>
         <source>SCSI</source>
-        <translation type="unfinished"></translation>
+        <translation>SCSI</translation>
     </message>
     <message>
         <source>Machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechner</translation>
     </message>
     <message>
         <source>Display</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige</translation>
     </message>
     <message>
         <source>Sound &amp; Input</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton &amp; Eingabe</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>JIT</source>
-        <translation type="unfinished"></translation>
+        <translation>JIT</translation>
     </message>
 </context>
 <context>
     <name>desktop</name>
     <message>
         <source>Read the local l&amp;ist</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Liste l&amp;esen</translation>
     </message>
     <message>
         <source>For finding faults in this program: the table shows the second of two equal lists. You see no difference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Fehlersuche in diesem Programm: Die Tabelle zeigt die zweite von zwei gleichen Listen. Ein Unterschied ist nicht zu sehen.</translation>
     </message>
     <message>
         <source>Tr&amp;y the save panel…</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;peicherdialog testen …</translation>
     </message>
     <message>
         <source>For finding faults in this program: shows a panel and writes the chosen place to standard output. Nothing is made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Fehlersuche in diesem Programm: Zeigt einen Dialog und schreibt den gewählten Ort auf die Standardausgabe. Es wird nichts angelegt.</translation>
     </message>
     <message>
         <source>Disk images</source>
-        <translation type="unfinished"></translation>
+        <translation>Festplattenabbilder</translation>
     </message>
     <message>
         <source>The disk images of the Macintosh, in their order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Festplattenabbilder des Macintosh in ihrer Reihenfolge.</translation>
     </message>
     <message>
         <source>Disk i&amp;mages:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Festplattenabbilder:</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>Hin&amp;zufügen …</translation>
     </message>
     <message>
         <source>Adds image files to the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt der Liste Abbilddateien hinzu.</translation>
     </message>
     <message>
         <source>Remo&amp;ve</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfe&amp;rnen</translation>
     </message>
     <message>
         <source>Takes the selected image off the list. The file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt das ausgewählte Abbild aus der Liste. Die Datei bleibt erhalten.</translation>
     </message>
     <message>
         <source>New &amp;Blank Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne&amp;ues leeres Abbild …</translation>
     </message>
     <message>
         <source>Makes an empty disk image. It is not added to the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt ein leeres Festplattenabbild an. Es wird nicht in die Liste aufgenommen.</translation>
     </message>
     <message>
         <source>Shared fol&amp;der:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gemeinsamer Ordner:</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auswählen …</translation>
     </message>
     <message>
         <source>Chooses the shared folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den gemeinsamen Ordner aus.</translation>
     </message>
     <message>
         <source>SCSI &amp;ID 0</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;CSI-ID 0</translation>
     </message>
     <message>
         <source>A mark for yourself while the window is open. It is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Markierung für Sie selbst, solange das Fenster geöffnet ist. Sie wird nicht gespeichert.</translation>
     </message>
     <message>
         <source>&amp;ROM file:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ROM-Datei:</translation>
     </message>
     <message>
         <source>Bro&amp;wse…</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;urchsuchen …</translation>
     </message>
     <message>
         <source>Chooses the ROM file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt die ROM-Datei aus.</translation>
     </message>
     <message>
         <source>&amp;Boot drive:</source>
-        <translation type="unfinished"></translation>
+        <translation>St&amp;artlaufwerk:</translation>
     </message>
     <message>
         <source>RA&amp;M size (MB):</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsspeicher (&amp;MB):</translation>
     </message>
     <message>
         <source>M&amp;odel:</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;odell:</translation>
     </message>
     <message>
         <source>Processor (CP&amp;U):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prozessor (CPU):</translation>
     </message>
     <message>
         <source>&amp;Disable the CD-ROM drive</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;CD-ROM-Laufwerk deaktivieren</translation>
     </message>
     <message>
         <source>Screen &amp;mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm&amp;modus:</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;reite:</translation>
     </message>
     <message>
         <source>Hei&amp;ght:</source>
-        <translation type="unfinished"></translation>
+        <translation>Höh&amp;e:</translation>
     </message>
     <message>
         <source>Refresh r&amp;ate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild&amp;wiederholrate:</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton</translation>
     </message>
     <message>
         <source>&amp;Disable sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton &amp;ausschalten</translation>
     </message>
     <message>
         <source>&amp;Output device:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;gabegerät:</translation>
     </message>
     <message>
         <source>&amp;Mixer device:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mi&amp;xer-Gerät:</translation>
     </message>
     <message>
         <source>Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastatur</translation>
     </message>
     <message>
         <source>Use raw &amp;key codes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rohe Tastencodes verwenden</translation>
     </message>
     <message>
         <source>Ke&amp;y code file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten&amp;code-Datei:</translation>
     </message>
     <message>
         <source>&amp;Browse…</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;urchsuchen …</translation>
     </message>
     <message>
         <source>Chooses the key code file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt die Tastencode-Datei aus.</translation>
     </message>
     <message>
         <source>Mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>Maus</translation>
     </message>
     <message>
         <source>Mouse &amp;wheel:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mausrad:</translation>
     </message>
     <message>
         <source>L&amp;ines to scroll:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeilen pro Schritt:</translation>
     </message>
     <message>
         <source>&amp;Modem port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modemanschluss:</translation>
     </message>
     <message>
         <source>P&amp;rinter port:</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;ruckeranschluss:</translation>
     </message>
     <message>
         <source>Network &amp;device:</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk&amp;gerät:</translation>
     </message>
     <message>
         <source>Tunnel the net&amp;work over UDP</source>
-        <translation type="unfinished"></translation>
+        <translation>Net&amp;zwerk über UDP tunneln</translation>
     </message>
     <message>
         <source>&amp;UDP port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;UDP-Port:</translation>
     </message>
     <message>
         <source>Just-in-time compiler</source>
-        <translation type="unfinished"></translation>
+        <translation>Just-in-time-Compiler</translation>
     </message>
     <message>
         <source>Enable the &amp;JIT compiler</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;JIT-Compiler aktivieren</translation>
     </message>
     <message>
         <source>Compile floating-point instr&amp;uctions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gleitkommabefehle kompilieren</translation>
     </message>
     <message>
         <source>Cache si&amp;ze (KB):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cache-Größe (KB):</translation>
     </message>
     <message>
         <source>Flush the cache lazil&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache ver&amp;zögert leeren</translation>
     </message>
     <message>
         <source>Inline &amp;blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Blöck&amp;e einbetten (Inlining)</translation>
     </message>
     <message>
         <source>Processor emulation</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessoremulation</translation>
     </message>
     <message>
         <source>Ignore &amp;memory faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherfehler igno&amp;rieren</translation>
     </message>
     <message>
         <source>Rest while the Macintosh is &amp;idle</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pausieren, wenn der Macintosh untätig ist</translation>
     </message>
     <message>
         <source>Reset to Default (empty)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Standard zurücksetzen (leer)</translation>
     </message>
     <message>
         <source>Reset to Default (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Standard zurücksetzen (%1)</translation>
     </message>
     <message>
         <source>If unsure, leave it empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Zweifel leer lassen.</translation>
     </message>
     <message>
         <source>If unsure, leave it at &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Zweifel bei „%1“ belassen.</translation>
     </message>
     <message>
         <source>Writes &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steht in der Datei unter „%1“.</translation>
     </message>
     <message>
         <source>Writes &quot;%1&quot;, %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steht in der Datei unter „%1“, %2.</translation>
     </message>
     <message>
         <source>Activity</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivität</translation>
     </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
     <message>
         <source>Beta Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Beta-Vereinbarung</translation>
     </message>
     <message>
         <source>&lt;p&gt;This program is a beta version. It changes three things on this computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Quillon&apos;s preferences file, when you press Save or Start;&lt;/li&gt;&lt;li&gt;its own settings, when you press Done in its preferences;&lt;/li&gt;&lt;li&gt;the disk images that you ask it to make.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Keep a copy of what you cannot do without. Disagree ends the program at once, without saving.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Dieses Programm ist eine Betaversion. Es verändert drei Dinge auf diesem Computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;die Einstellungsdatei von Quillon, wenn Sie auf „Speichern“ oder „Starten“ klicken;&lt;/li&gt;&lt;li&gt;seine eigenen Einstellungen, wenn Sie dort auf „Fertig“ klicken;&lt;/li&gt;&lt;li&gt;die Festplattenabbilder, die Sie anlegen lassen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Bewahren Sie eine Kopie von allem auf, worauf Sie nicht verzichten können. „Ablehnen“ beendet das Programm sofort, ohne zu speichern.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Disagree</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ablehnen</translation>
     </message>
     <message>
         <source>Ends the program at once, without saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet das Programm sofort, ohne zu speichern.</translation>
     </message>
     <message>
         <source>&amp;Agree</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zustimmen</translation>
     </message>
     <message>
         <source>Closes this sheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt dieses Fenster.</translation>
     </message>
 </context>
 <context>
     <name>desktop::CreateSheet</name>
     <message>
         <source>New Blank Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues leeres Abbild</translation>
     </message>
     <message>
         <source>The name of the image file, without &quot;.dsk&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name der Abbilddatei, ohne „.dsk“.</translation>
     </message>
     <message>
         <source>The size in megabytes. 100 if this is no whole number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Größe in Megabyte. Ist dies keine ganze Zahl, gilt 100.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>Size in megabytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe in Megabyte</translation>
     </message>
     <message>
         <source>&amp;Size (MB):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größe (MB):</translation>
     </message>
     <message>
         <source>Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner:</translation>
     </message>
     <message>
         <source>Makes the image, and then closes this sheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt das Abbild an und schließt danach dieses Fenster.</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>Only moves the bar; making an image does not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewegt nur den Balken; das Anlegen eines Abbilds tut das nicht.</translation>
     </message>
     <message>
         <source>&amp;Animate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Animieren</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;halten</translation>
     </message>
 </context>
 <context>
     <name>desktop::FindField</name>
     <message>
         <source>Find a setting (Ctrl+F)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung suchen (Strg+F)</translation>
     </message>
     <message>
         <source>Find a setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellung suchen</translation>
     </message>
     <message>
         <source>Type a word of a setting&apos;s name, its key or its help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie ein Wort aus dem Namen, dem Schlüssel oder der Hilfe einer Einstellung ein.</translation>
     </message>
     <message>
         <source>%1 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
 </context>
 <context>
     <name>desktop::HelpLine</name>
     <message>
         <source>Move to a setting to read here what it does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehen Sie zu einer Einstellung, um hier zu lesen, was sie bewirkt.</translation>
     </message>
 </context>
 <context>
     <name>desktop::PreferencesWindow</name>
     <message>
         <source>Quillon Settings Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmeinstellungen</translation>
     </message>
     <message>
         <source>Where Quillon is</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sich Quillon befindet</translation>
     </message>
     <message>
         <source>&amp;Nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nirgends</translation>
     </message>
     <message>
         <source>Start is disabled until a place is chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Starten“ ist deaktiviert, bis ein Ort gewählt ist.</translation>
     </message>
     <message>
         <source>&amp;Beside this program</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;eben diesem Programm</translation>
     </message>
     <message>
         <source>Quillon.app in the folder of this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon.app im Ordner dieses Programms.</translation>
     </message>
     <message>
         <source>&amp;Somewhere else</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Woanders</translation>
     </message>
     <message>
         <source>The place named below. &quot;Quillon&quot; must be part of the name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der unten angegebene Ort. „Quillon“ muss im Namen vorkommen.</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Testen</translation>
     </message>
     <message>
         <source>Starts what the location names, unchecked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Startet ungeprüft, was als Ort angegeben ist.</translation>
     </message>
     <message>
         <source>&amp;Done</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fertig</translation>
     </message>
     <message>
         <source>Applies and stores the choices.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernimmt und speichert die Auswahl.</translation>
     </message>
     <message>
         <source>Show the SCS&amp;I tab</source>
-        <translation type="unfinished"></translation>
+        <translation>SCS&amp;I-Reiter anzeigen</translation>
     </message>
     <message>
         <source>Whether the settings window has a tab for SCSI. It shows up with Done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob das Hauptfenster einen Reiter für SCSI hat. Er erscheint mit „Fertig“.</translation>
     </message>
     <message>
         <source>&amp;Quit after Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach dem &amp;Starten beenden</translation>
     </message>
     <message>
         <source>Ends this program once Quillon has been started.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet dieses Programm, sobald Quillon gestartet ist.</translation>
     </message>
     <message>
         <source>The application that Start launches. &quot;Quillon&quot; must be part of the name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anwendung, die „Starten“ aufruft. „Quillon“ muss im Namen vorkommen.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>&amp;Location:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort:</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auswählen …</translation>
     </message>
     <message>
         <source>Chooses the application.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt die Anwendung aus.</translation>
     </message>
 </context>
 <context>
     <name>desktop::SettingsWindow</name>
     <message>
         <source>Quillon Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillon-Einstellungen</translation>
     </message>
     <message>
         <source>The preferences file that Save and Start write. Type another place to save to before the first save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei, die „Speichern“ und „Starten“ schreiben. Einen anderen Speicherort geben Sie vor dem ersten Speichern ein.</translation>
     </message>
     <message>
         <source>Preferences fi&amp;le:</source>
-        <translation type="unfinished"></translation>
+        <translation>Einste&amp;llungsdatei:</translation>
     </message>
     <message>
         <source>Preferences file</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsdatei</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Copies the preferences file of your home folder to the place named here, if there is none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die Einstellungsdatei aus Ihrem persönlichen Ordner an den hier angegebenen Ort, falls dort noch keine ist.</translation>
     </message>
     <message>
         <source>Prefere&amp;nces…</source>
-        <translation type="unfinished"></translation>
+        <translation>Programme&amp;instellungen …</translation>
     </message>
     <message>
         <source>Where Quillon is, and how this program behaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sich Quillon befindet und wie sich dieses Programm verhält.</translation>
     </message>
     <message>
         <source>S&amp;tart</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tarten</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Writes the preferences file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Einstellungsdatei.</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bee&amp;nden</translation>
     </message>
     <message>
         <source>Ends the program without saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet das Programm, ohne zu speichern.</translation>
     </message>
     <message>
         <source>Writes the preferences file and starts Quillon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Einstellungsdatei und startet Quillon.</translation>
     </message>
     <message>
         <source>Start is disabled: choose where Quillon is in Edit &gt; Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Starten“ ist deaktiviert: Wählen Sie unter „Bearbeiten &gt; Programmeinstellungen“, wo sich Quillon befindet.</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;New Blank Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues &amp;leeres Abbild …</translation>
     </message>
     <message>
         <source>&amp;Add Volume…</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenträger &amp;hinzufügen …</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Programmeinstellungen …</translation>
     </message>
     <message>
         <source>&amp;Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorgaben</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Beta Agreement…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beta-Vereinbarung …</translation>
     </message>
     <message>
         <source>&amp;About Quillon Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Über &amp;Quillon-Einstellungen</translation>
     </message>
     <message>
         <source>About Quillon Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Quillon-Einstellungen</translation>
     </message>
     <message>
         <source>&lt;p&gt;&lt;b&gt;Quillon Settings %1&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Sets up Quillon, an emulator of 68k Macintosh computers, and starts it.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;&lt;b&gt;Quillon-Einstellungen %1&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Richtet Quillon ein, einen Emulator für 68k-Macintosh-Computer, und startet ihn.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>desktop::VolumeModel</name>
     <message>
         <source>Disk image</source>
-        <translation type="unfinished"></translation>
+        <translation>Festplattenabbild</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
 </context>
 <context>
     <name>desktop::VolumeView</name>
     <message>
         <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Festplattenabbilder. Drücken Sie die Einfügetaste oder klicken Sie auf „Hinzufügen …“, um eines hinzuzufügen.</translation>
     </message>
 </context>
 </TS>
