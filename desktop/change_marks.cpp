@@ -42,7 +42,11 @@ void ChangeMarks::update() {
   }
   const bool volumesChanged = controller_.volumesChanged();
   mark(volumesLabel_, volumesChanged);
-  window_.setWindowModified(!changed.empty() || volumesChanged);
+  // Not without need: the window system answers each new title, which would bring us here again.
+  const bool modified = !changed.empty() || volumesChanged;
+  if (window_.isWindowModified() != modified) {
+    window_.setWindowModified(modified);
+  }
 }
 
 }  // namespace desktop

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QStandardItemModel>
 #include <algorithm>
 #include <utility>
@@ -59,6 +60,14 @@ void FindField::focusInEvent(QFocusEvent* event) {
   }
   QLineEdit::focusInEvent(event);
   selectAll();
+}
+
+void FindField::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    clear();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
 }
 
 void FindField::buildList() {

@@ -24,6 +24,7 @@ class FindField : public QLineEdit {
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void buildList();

@@ -41,7 +41,7 @@ void showMenu(QWidget* widget, const QPoint& position, editor::Setting& setting)
 }  // namespace
 
 QString helpOf(const editor::Setting& setting) {
-  const document::KeyRow& row = document::rowOf(setting.key());
+  const document::KeyRow& row = document::rowOf(setting.explainedKey());
   const QString value = shownDefault(setting);
   const QString word = keyWord(row);
   QString help = QCoreApplication::translate("Help", row.help);

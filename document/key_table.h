@@ -111,7 +111,7 @@ inline constexpr std::array<KeyRow, keyCount> keyTable = {{
      translatable("Help", "as a model number")},
     {Key::cpu, "cpu ", "3", "cpuType", "cpuType",
      translatable("Help", "The processor of the Macintosh, with or without floating-point unit."),
-     translatable("Help", "with fpu, as the last digits of 680x0")},
+     translatable("Help", "as the x of 680x0, together with \"fpu\" as true or false")},
     {Key::fpu, "fpu ", "false", "cpuType", "cpuType",
      translatable("Help", "Whether the processor has a floating-point unit."),
      translatable("Help", "as true or false")},

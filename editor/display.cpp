@@ -20,12 +20,12 @@ struct Rate {
   std::int64_t frameskip;
 };
 
-constexpr std::array<Rate, 7> rates = {{{"Dynamic", 0},
+constexpr std::array<Rate, 7> rates = {{{platform::translatable("Items", "Dynamic"), 0},
                                         {"60 Hz", 1},
                                         {"30 Hz", 2},
                                         {"15 Hz", 4},
                                         {"10 Hz", 6},
-                                        {"7.5 Hz", 8},
+                                        {platform::translatable("Items", "7.5 Hz"), 8},
                                         {"5 Hz", 12}}};
 
 std::vector<std::string> rateTitles() {

@@ -70,6 +70,7 @@ class ProcessorSetting : public PopUpSetting {
  public:
   explicit ProcessorSetting(ControlGroup& group);
 
+  [[nodiscard]] Key explainedKey() const override { return Key::cpu; }
   [[nodiscard]] std::string shownDefault() const override;
 
  protected:

@@ -78,6 +78,9 @@ class Setting {
   /// Makes the default the value and shows it: an edit like any other.
   void reset();
 
+  /// The key whose row explains the control, where it shows more than one.
+  [[nodiscard]] virtual Key explainedKey() const { return key_; }
+
   /// The default as a person sees it in the control.
   [[nodiscard]] virtual std::string shownDefault() const { return std::string(row().defaultValue); }
 

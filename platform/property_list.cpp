@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "platform/binary_list.h"
 #include "platform/files.h"
 
 namespace platform {
@@ -11,6 +12,7 @@ namespace {
 
 // Bounds the memory and the recursion of the parser, too.
 constexpr std::size_t sizeLimit = std::size_t{64} * 1024;
+constexpr std::size_t expandedLimit = std::size_t{1024} * 1024;
 
 }  // namespace
 
@@ -24,7 +26,9 @@ std::optional<PropertyList> PropertyList::read(const std::string& path, std::err
     return std::nullopt;
   }
   plist_t root = nullptr;
-  plist_from_memory(content->data(), static_cast<std::uint32_t>(content->size()), &root);
+  if (staysWithin(*content, expandedLimit)) {
+    plist_from_memory(content->data(), static_cast<std::uint32_t>(content->size()), &root);
+  }
   PropertyList list(root);
   if (plist_get_node_type(root) != PLIST_DICT) {
     error = std::make_error_code(std::errc::invalid_argument);
@@ -89,7 +93,10 @@ std::optional<std::string> PropertyList::xml() const {
   std::uint32_t length = 0;
   plist_to_xml(root_.get(), &text, &length);
   const std::unique_ptr<char, decltype(&plist_to_xml_free)> owned(text, &plist_to_xml_free);
-  return text != nullptr ? std::optional<std::string>(std::in_place, text, length) : std::nullopt;
+  // What could not be read again is better not written.
+  return text != nullptr && length <= sizeLimit
+             ? std::optional<std::string>(std::in_place, text, length)
+             : std::nullopt;
 }
 
 }  // namespace platform

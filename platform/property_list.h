@@ -16,7 +16,8 @@ class PropertyList {
   PropertyList();
 
   /// Reads XML, binary and whatever else the library knows. None, with the reason in `error`, when
-  /// the file cannot be read, holds more than 64 KiB or is no dictionary.
+  /// the file cannot be read, holds more than 64 KiB, stands for more than 1 MiB or is no
+  /// dictionary.
   static std::optional<PropertyList> read(const std::string& path, std::error_code& error);
 
   /// The value of a key; none when the key is missing or its value has another type.
@@ -28,7 +29,7 @@ class PropertyList {
   void set(const std::string& key, bool value);
   void set(const std::string& key, std::int64_t value);
 
-  /// The whole list in the XML format; none when it cannot be expressed.
+  /// The whole list in the XML format; none when it cannot be expressed or `read` would refuse it.
   [[nodiscard]] std::optional<std::string> xml() const;
 
  private:

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>How the Macintosh reaches the network: &quot;slirp&quot; needs no set-up, or the name of a network device.</source>
-        <translation>Wie der Macintosh ins Netzwerk kommt: „slirp“, das keine Einrichtung braucht, oder der Name eines Netzwerkgeräts.</translation>
+        <translation>Wie der Macintosh ins Netzwerk kommt: über „slirp“, das keine Einrichtung braucht, oder über das hier genannte Netzwerkgerät.</translation>
     </message>
     <message>
         <source>Sends network packets to other emulators on the local network through UDP.</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>The UDP port of the tunnel. All emulators that are to meet need the same.</source>
-        <translation>Der UDP-Port des Tunnels. Er muss bei allen Emulatoren gleich sein, die sich treffen sollen.</translation>
+        <translation>Der UDP-Port des Tunnels. Alle Emulatoren, die sich treffen sollen, brauchen denselben.</translation>
     </message>
     <message>
         <source>as a number from 1 to 65535</source>
@@ -96,8 +96,8 @@
         <translation>Der Prozessor des Macintosh, mit oder ohne Gleitkommaeinheit.</translation>
     </message>
     <message>
-        <source>with fpu, as the last digits of 680x0</source>
-        <translation>zusammen mit „fpu“, als Ziffer x in 680x0</translation>
+        <source>as the x of 680x0, together with &quot;fpu&quot; as true or false</source>
+        <translation>als x von 680x0, zusammen mit „fpu“ als true oder false</translation>
     </message>
     <message>
         <source>Whether the processor has a floating-point unit.</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>Throws translated programs away only when they are really no longer valid. Faster.</source>
-        <translation>Verwirft übersetzte Programme erst, wenn sie wirklich nicht mehr gültig sind. Schneller.</translation>
+        <translation>Verwirft übersetzte Programme erst, wenn sie wirklich nicht mehr gültig sind. Das ist schneller.</translation>
     </message>
     <message>
         <source>Translates across jumps that always lead to the same place. Faster.</source>
-        <translation>Übersetzt über Sprünge hinweg, die immer zum selben Ziel führen. Schneller.</translation>
+        <translation>Übersetzt über Sprünge hinweg, die immer zum selben Ziel führen. Das ist schneller.</translation>
     </message>
     <message>
         <source>Tells keys apart by their place on the keyboard, through a table in a file, and not by their letter.</source>
-        <translation>Unterscheidet Tasten nach ihrer Lage auf der Tastatur, anhand einer Tabelle in einer Datei, und nicht nach ihrem Buchstaben.</translation>
+        <translation>Unterscheidet Tasten anhand einer Tabelle in einer Datei nach ihrer Lage auf der Tastatur statt nach ihrem Buchstaben.</translation>
     </message>
     <message>
         <source>The file with the table of key codes. Used only with raw key codes.</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Which keys a turn of the mouse wheel presses inside the Macintosh.</source>
-        <translation>Welche Tasten das Drehen des Mausrads im Macintosh drückt.</translation>
+        <translation>Welche Tasten beim Drehen des Mausrads im Macintosh gedrückt werden.</translation>
     </message>
     <message>
         <source>as 0 for pages, 1 for the cursor</source>
@@ -161,11 +161,11 @@
     </message>
     <message>
         <source>The device that sound goes to. Leave it empty for the usual one.</source>
-        <translation>Das Gerät, auf dem der Ton ausgegeben wird. Leer bedeutet: das übliche.</translation>
+        <translation>Das Gerät, auf dem der Ton ausgegeben wird. Leer bedeutet: das Standardgerät.</translation>
     </message>
     <message>
         <source>The device that sets the loudness. Leave it empty for the usual one.</source>
-        <translation>Das Gerät, das die Lautstärke regelt. Leer bedeutet: das übliche.</translation>
+        <translation>Das Gerät, das die Lautstärke regelt. Leer bedeutet: das Standardgerät.</translation>
     </message>
     <message>
         <source>Lets the Macintosh go on when a program reaches for memory that is not there.</source>
@@ -237,6 +237,14 @@
     <message>
         <source>JIT</source>
         <translation>JIT</translation>
+    </message>
+    <message>
+        <source>Dynamic</source>
+        <translation>Dynamisch</translation>
+    </message>
+    <message>
+        <source>7.5 Hz</source>
+        <translation>7,5 Hz</translation>
     </message>
 </context>
 <context>
@@ -565,7 +573,7 @@
     </message>
     <message>
         <source>Only moves the bar; making an image does not.</source>
-        <translation>Bewegt nur den Balken; das Anlegen eines Abbilds tut das nicht.</translation>
+        <translation>Bewegt nur den Balken; beim Anlegen eines Abbilds bewegt er sich nicht.</translation>
     </message>
     <message>
         <source>&amp;Animate</source>
@@ -666,7 +674,7 @@
     </message>
     <message>
         <source>Ends this program once Quillon has been started.</source>
-        <translation>Beendet dieses Programm, sobald Quillon gestartet ist.</translation>
+        <translation>Beendet dieses Programm, sobald Quillon gestartet wurde.</translation>
     </message>
     <message>
         <source>The application that Start launches. &quot;Quillon&quot; must be part of the name.</source>
@@ -815,7 +823,7 @@
     <name>desktop::VolumeView</name>
     <message>
         <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation>Noch keine Festplattenabbilder. Drücken Sie die Einfügetaste oder klicken Sie auf „Hinzufügen …“, um eines hinzuzufügen.</translation>
+        <translation>Noch keine Festplattenabbilder. Mit der Einfügetaste oder „Hinzufügen&#xa0;…“ nehmen Sie eines auf.</translation>
     </message>
 </context>
 </TS>

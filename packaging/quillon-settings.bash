@@ -1,0 +1,2 @@
+# shellcheck shell=bash
+complete -W '--start --help --version' quillon-settings

@@ -1,0 +1,111 @@
+#include "platform/binary_list.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace platform {
+namespace {
+
+constexpr std::string_view magic = "bplist";
+constexpr std::size_t trailerSize = 32;
+
+// The high half of an object's first byte says what it is.
+enum Kind : std::uint8_t {
+  data = 4,
+  ascii = 5,
+  utf16 = 6,
+  utf8 = 7,
+  array = 10,
+  set = 12,
+  dict = 13
+};
+
+class BinaryList {
+ public:
+  BinaryList(std::string_view content, std::size_t limit) : content_(content), limit_(limit) {}
+
+  bool staysWithin() {
+    if (content_.size() < magic.size() + trailerSize) {
+      return false;
+    }
+    const std::size_t trailer = content_.size() - trailerSize;
+    offsetSize_ = number(trailer + 6, 1);
+    referenceSize_ = number(trailer + 7, 1);
+    const std::size_t count = number(trailer + 8, 8);
+    table_ = number(trailer + 24, 8);
+    if (count > trailer || table_ > trailer) {
+      return false;
+    }
+    sizes_.assign(count, unknown);
+    return sizeOf(number(trailer + 16, 8)) <= limit_;
+  }
+
+ private:
+  static constexpr std::size_t unknown = SIZE_MAX;
+
+  // Big-endian; what lies outside reads as more than there can be.
+  [[nodiscard]] std::size_t number(std::size_t at, std::size_t size) const {
+    if (size > 8 || at > content_.size() || size > content_.size() - at) {
+      return SIZE_MAX;
+    }
+    std::size_t value = 0;
+    for (const char byte : content_.substr(at, size)) {
+      value = value << 8U | static_cast<unsigned char>(byte);
+    }
+    return value;
+  }
+
+  // In bytes, with all that the object holds.
+  std::size_t sizeOf(std::size_t object) {
+    if (object >= sizes_.size()) {
+      return limit_ + 1;
+    }
+    if (sizes_[object] == unknown) {
+      sizes_[object] = 1;  // for an object within itself, which the library refuses
+      sizes_[object] = measure(number(table_ + object * offsetSize_, offsetSize_));
+    }
+    return sizes_[object];
+  }
+
+  std::size_t measure(std::size_t at) {
+    const std::size_t marker = number(at, 1);
+    if (marker > UINT8_MAX) {
+      return limit_ + 1;
+    }
+    const std::size_t kind = marker >> 4U;
+    std::size_t count = marker & 15U;
+    ++at;
+    if (count == 15 && kind >= data) {
+      const std::size_t width = std::size_t{1} << (number(at, 1) & 3U);
+      count = number(at + 1, width);
+      at += 1 + width;
+    }
+    if (count > content_.size()) {
+      return limit_ + 1;
+    }
+    if (kind < array) {
+      return 1 + (kind == utf16 ? 2 * count : kind >= data ? count : 0);
+    }
+    std::size_t total = 1;
+    for (std::size_t left = kind == dict ? 2 * count : count; left > 0 && total <= limit_; --left) {
+      total += sizeOf(number(at, referenceSize_));
+      at += referenceSize_;
+    }
+    return total;
+  }
+
+  std::string_view content_;
+  std::size_t limit_;
+  std::size_t offsetSize_ = 0;
+  std::size_t referenceSize_ = 0;
+  std::size_t table_ = 0;
+  std::vector<std::size_t> sizes_;  // of the objects measured so far
+};
+
+}  // namespace
+
+bool staysWithin(std::string_view content, std::size_t limit) {
+  return !content.starts_with(magic) || BinaryList(content, limit).staysWithin();
+}
+
+}  // namespace platform
