@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QPointer>
 #include <QWidget>
 
 #include "desktop/texts.h"
@@ -18,7 +19,17 @@ void Application::makeFirstResponder(platform::TextField& field) {
   edits.endEditing();
   for (const QWidget* const window : QApplication::topLevelWidgets()) {
     if (auto* const widget = window->findChild<QWidget*>(shown(field.name()))) {
+      const QPointer<QWidget> before = QApplication::focusWidget();
       widget->setFocus(Qt::OtherFocusReason);
+      // A save disables the field again at once. Whoever saves while typing goes on typing there.
+      QMetaObject::invokeMethod(
+          widget,
+          [widget, before] {
+            if (!widget->isEnabled() && before) {
+              before->setFocus(Qt::OtherFocusReason);
+            }
+          },
+          Qt::QueuedConnection);
       return;
     }
   }

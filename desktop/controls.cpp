@@ -186,7 +186,11 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
     show();
     pending->settle();
   });
-  QObject::connect(box, &QComboBox::activated, [pending, &control](int index) {
+  QObject::connect(box, &QComboBox::activated, [box, pending, &control](int index) {
+    // Qt takes a typed text that stands in the list for a choice.
+    if (pending->isTyped(box->itemText(index))) {
+      return;
+    }
     pending->settle();
     control.edit([&] { control.selectItem(static_cast<std::size_t>(index)); });
   });

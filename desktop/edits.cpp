@@ -20,7 +20,9 @@ void Edits::endEditing() {
 PendingEdit::PendingEdit(QLineEdit* field, Edits& edits, Taker note, Taker commit)
     : QObject(field), field_(field), commit_(std::move(commit)), settled_(field->text()) {
   edits.add(this);
-  field->installEventFilter(this);
+  // Inside an editable box it is the box that has the focus.
+  QWidget* const focused = field->focusProxy() != nullptr ? field->focusProxy() : field;
+  focused->installEventFilter(this);
   connect(field, &QLineEdit::textEdited, this, [this, note = std::move(note)](const QString& text) {
     text_ = text;
     typed_ = true;

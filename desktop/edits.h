@@ -40,6 +40,9 @@ class PendingEdit : public QObject {
 
   void endEditing();
 
+  /// Whether this very text has been typed and not committed yet.
+  [[nodiscard]] bool isTyped(const QString& text) const { return typed_ && text_ == text; }
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1,5 +1,7 @@
 #include "platform/binary_list.h"
 
+#include <bit>
+#include <cmath>
 #include <cstdint>
 #include <vector>
 
@@ -10,21 +12,13 @@ constexpr std::string_view magic = "bplist";
 constexpr std::size_t trailerSize = 32;
 
 // The high half of an object's first byte says what it is.
-enum Kind : std::uint8_t {
-  data = 4,
-  ascii = 5,
-  utf16 = 6,
-  utf8 = 7,
-  array = 10,
-  set = 12,
-  dict = 13
-};
+enum Kind : std::uint8_t { date = 3, data, ascii, utf16, utf8, array = 10, set = 12, dict };
 
 class BinaryList {
  public:
   BinaryList(std::string_view content, std::size_t limit) : content_(content), limit_(limit) {}
 
-  bool staysWithin() {
+  bool isHarmless() {
     if (content_.size() < magic.size() + trailerSize) {
       return false;
     }
@@ -67,6 +61,23 @@ class BinaryList {
     return sizes_[object];
   }
 
+  [[nodiscard]] bool holdsZero(std::size_t kind, std::size_t at, std::size_t count) const {
+    const std::size_t width = kind == utf16 ? 2 : kind == ascii || kind == utf8 ? 1 : 0;
+    for (; width > 0 && count > 0; --count, at += width) {
+      if (number(at, width) == 0) {
+        return true;
+      }
+    }
+    return false;
+  }
+
+  // Within some 1,900 years of 2001, where counting begins.
+  [[nodiscard]] bool isInCalendar(std::size_t at) const {
+    constexpr double longest = 6e10;  // seconds
+    const auto seconds = std::bit_cast<double>(std::uint64_t{number(at, 8)});
+    return std::abs(seconds) < longest;
+  }
+
   std::size_t measure(std::size_t at) {
     const std::size_t marker = number(at, 1);
     if (marker > UINT8_MAX) {
@@ -84,6 +95,9 @@ class BinaryList {
       return limit_ + 1;
     }
     if (kind < array) {
+      if (holdsZero(kind, at, count) || (kind == date && !isInCalendar(at))) {
+        return limit_ + 1;
+      }
       return 1 + (kind == utf16 ? 2 * count : kind >= data ? count : 0);
     }
     std::size_t total = 1;
@@ -104,8 +118,8 @@ class BinaryList {
 
 }  // namespace
 
-bool staysWithin(std::string_view content, std::size_t limit) {
-  return !content.starts_with(magic) || BinaryList(content, limit).staysWithin();
+bool isHarmless(std::string_view content, std::size_t limit) {
+  return !content.starts_with(magic) || BinaryList(content, limit).isHarmless();
 }
 
 }  // namespace platform

@@ -5,9 +5,10 @@
 
 namespace platform {
 
-/// Whether `content` is no binary property list, or one that takes at most `limit` bytes with every
-/// object written out wherever it is named. A list that names an object often can be vast: the
-/// library makes a copy each time.
-bool staysWithin(std::string_view content, std::size_t limit);
+/// Whether `content` is no binary property list, or one that the library copes with. It has to stay
+/// within `limit` bytes with every object written out wherever it is named, since the library makes
+/// a copy each time; and the library ends the program over a text with a zero in it and over a date
+/// that no calendar has.
+bool isHarmless(std::string_view content, std::size_t limit);
 
 }  // namespace platform

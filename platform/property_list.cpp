@@ -3,6 +3,7 @@
 #include <plist/plist.h>
 
 #include <cstdlib>
+#include <set>
 
 #include "platform/binary_list.h"
 #include "platform/files.h"
@@ -10,9 +11,28 @@
 namespace platform {
 namespace {
 
-// Bounds the memory and the recursion of the parser, too.
+// Bounds the recursion of the parser, too.
 constexpr std::size_t sizeLimit = std::size_t{64} * 1024;
 constexpr std::size_t expandedLimit = std::size_t{1024} * 1024;
+
+// A binary list can, and then reads otherwise once it has been written as XML.
+bool holdsAKeyTwice(plist_t dictionary) {
+  plist_dict_iter position = nullptr;
+  plist_dict_new_iter(dictionary, &position);
+  const std::unique_ptr<void, decltype(&std::free)> owned(position, &std::free);
+  for (std::set<std::string> keys;;) {
+    char* key = nullptr;
+    plist_t value = nullptr;
+    plist_dict_next_item(dictionary, position, &key, &value);
+    const std::unique_ptr<char, decltype(&std::free)> ownedKey(key, &std::free);
+    if (key == nullptr) {
+      return false;
+    }
+    if (!keys.emplace(key).second) {
+      return true;
+    }
+  }
+}
 
 }  // namespace
 
@@ -21,16 +41,16 @@ PropertyList::PropertyList() : root_(plist_new_dict()) {}
 void PropertyList::Free::operator()(Node node) const { plist_free(node); }
 
 std::optional<PropertyList> PropertyList::read(const std::string& path, std::error_code& error) {
-  const auto content = readFile(path, error, sizeLimit);
-  if (!content) {
+  const auto bytes = readFile(path, error, sizeLimit);
+  if (!bytes) {
     return std::nullopt;
   }
   plist_t root = nullptr;
-  if (staysWithin(*content, expandedLimit)) {
-    plist_from_memory(content->data(), static_cast<std::uint32_t>(content->size()), &root);
+  if (isHarmless(*bytes, expandedLimit)) {
+    plist_from_memory(bytes->data(), static_cast<std::uint32_t>(bytes->size()), &root);
   }
   PropertyList list(root);
-  if (plist_get_node_type(root) != PLIST_DICT) {
+  if (plist_get_node_type(root) != PLIST_DICT || holdsAKeyTwice(root)) {
     error = std::make_error_code(std::errc::invalid_argument);
     return std::nullopt;
   }
