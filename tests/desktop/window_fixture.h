@@ -1,0 +1,139 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTest>
+#include <QWindow>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desktop/application.h"
+#include "desktop/settings_window.h"
+#include "document/key_table.h"
+#include "editor/view_controller.h"
+#include "tests/support/fake_host.h"
+
+namespace tests {
+
+/// The running application, but for what would end it.
+struct TestedApplication : desktop::Application {
+  std::vector<std::string> calls;
+  void terminate() override { calls.emplace_back("terminate"); }
+  void exitNow() override { calls.emplace_back("exit"); }
+};
+
+/// The settings window over a home of its own, driven as a person does.
+class WindowTest : public testing::Test {
+ protected:
+  platform::Host host() {
+    const platform::Host host = fake.host();
+    return {host.homeDirectory, host.configHome, host.bundle, fake.output,
+            fake.panels,        fake.workspace,  application, fake.notifications};
+  }
+
+  void open(const std::string& preferences = {}) {
+    fake.home.write(FakeHost::prefs, preferences);
+    reopen();
+  }
+
+  void reopen() {
+    window.reset();
+    controller.emplace(host());
+    controller->viewDidLoad();
+    window.emplace(*controller, host(), application.edits);
+    window->show();
+    activate(&*window);
+  }
+
+  static void activate(QWidget* top) {
+    top->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(top)) << top->objectName().toStdString();
+  }
+
+  /// A widget of the front-most windows or of the settings window, by the name of its outlet.
+  template <typename Widget = QWidget>
+  Widget* find(const char* name) const {
+    for (QWidget* const top : QApplication::topLevelWidgets()) {
+      if (auto* const found = top->findChild<Widget*>(QLatin1String(name))) {
+        return found;
+      }
+    }
+    ADD_FAILURE() << "no widget " << name;
+    throw std::logic_error(name);
+  }
+
+  QTabWidget* tabs() const { return find<QTabWidget>("tabViewC"); }
+
+  void showTab(const char* label) const {
+    for (int tab = 0; tab < tabs()->count(); ++tab) {
+      if (tabs()->tabText(tab).replace(QLatin1String("&&"), QLatin1String("&")) ==
+          QLatin1String(label)) {
+        tabs()->setCurrentIndex(tab);
+        return;
+      }
+    }
+    FAIL() << "no tab " << label;
+  }
+
+  static QString textOf(QWidget* widget) {
+    auto* const box = qobject_cast<QComboBox*>(widget);
+    return box != nullptr ? box->currentText() : widget->property("text").toString();
+  }
+
+  /// Keys go to the window that has the focus, as they do from a keyboard.
+  static void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(front(), static_cast<Qt::Key>(code), modifiers);
+  }
+  static void type(const char* text) {
+    for (; *text != '\0'; ++text) {
+      QTest::keyClick(front(), *text);
+    }
+  }
+  static QWindow* front() {
+    QWidget* const popup = QApplication::activePopupWidget();
+    return (popup != nullptr ? popup : QApplication::activeWindow())->windowHandle();
+  }
+
+  static void click(QWidget* widget, QPoint place = {}) {
+    ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << widget->objectName().toStdString();
+    // Behind its text a check box does not answer.
+    const bool checkable = widget->property("checkable").toBool();
+    const QPoint middle(checkable ? 10 : widget->width() / 2, widget->height() / 2);
+    const QPoint point = place.isNull() ? middle : place;
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
+                      widget->mapTo(widget->window(), point));
+  }
+  void click(const char* name) const { click(find(name)); }
+
+  /// Replaces the text of a field, without ending the edit.
+  void typeInto(const char* name, const char* text) const {
+    find(name)->setFocus();
+    key(Qt::Key_A, Qt::ControlModifier);
+    key(Qt::Key_Backspace);
+    type(text);
+  }
+
+  /// The value in the file.
+  std::string saved(document::Key wanted) const {
+    const std::string text = "\n" + fake.home.read(FakeHost::prefs);
+    const std::string start = "\n" + std::string(document::rowOf(wanted).text);
+    const auto at = text.find(start);
+    return at == std::string::npos
+               ? "(no line)"
+               : text.substr(at + start.size(), text.find('\n', at + 1) - at - start.size());
+  }
+
+  std::string value(document::Key wanted) const { return controller->preferences.value(wanted); }
+
+  FakeHost fake;
+  TestedApplication application;
+  std::optional<editor::ViewController> controller;
+  std::optional<desktop::SettingsWindow> window;
+};
+
+}  // namespace tests
