@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# Builds the archive and the Debian package into build/packages, and checks what they are made of.
+# Packages that are missing are installed.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+. scripts/packages.sh
+
+build=build/release
+program=$build/QuillonSettings.app/Contents/MacOS/quillon-settings
+desktopEntry=resources/desktop/org.quillon.Settings.desktop
+metainfo=resources/desktop/org.quillon.Settings.metainfo.xml
+manual=packaging/quillon-settings.1
+
+fail() {
+  echo "$*" >&2
+  exit 1
+}
+
+checkTexts() {
+  local said options option
+  # Warnings do not show in the status of these two, and failures say something, too.
+  said=$(desktop-file-validate "$desktopEntry" 2>&1) || true
+  said+=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 \
+    man --warnings -E UTF-8 -l -Tutf8 -Z "$manual" 2>&1 >/dev/null) || true
+  [ -z "$said" ] || fail "$said"
+  quietly appstreamcli validate --no-net "$metainfo"
+  options=$("$program" --help | grep -oE -- '--[a-z]+')
+  for option in $options; do
+    sed 's/\\-/-/g' "$manual" | grep -qFx -- ".B $option" || fail "$manual lacks $option"
+    grep -qF -- "$option" packaging/quillon-settings.bash || fail "The completion lacks $option"
+  done
+}
+
+# checkVersions VERSION: that the lists of releases tell of it.
+checkVersions() {
+  [ "$(dpkg-parsechangelog -l packaging/debian/changelog -S Version)" = "$1" ] ||
+    fail "packaging/debian/changelog does not begin with $1"
+  grep -qF "<release version=\"$1\"" "$metainfo" || fail "$metainfo has no release $1"
+}
+
+installMissing "${buildPackages[@]}" dpkg-dev file lintian desktop-file-utils appstream man-db
+[ -e $build/build.ninja ] || quietly cmake --preset release -DQUILLON_TESTS=OFF
+quietly cmake --build --preset release --target quillon-settings manuals
+checkTexts
+
+rm -rf build/packages
+mkdir build/packages
+quietly cpack --config $build/CPackConfig.cmake -B $build/cpack \
+  -D CPACK_OUTPUT_FILE_PREFIX="$PWD/build/packages"
+package=$(echo build/packages/*.deb)
+checkVersions "$(dpkg-deb --field "$package" Version)"
+lintian --allow-root --fail-on error,warning "$package"
+printf '%s\n' "$PWD"/build/packages/*

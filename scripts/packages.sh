@@ -1,0 +1,50 @@
+# shellcheck shell=bash disable=SC2034  # the lists are for those who source this
+# What the commands at the root need of Debian 12, and the way to get it.
+
+buildPackages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-tools-dev qt6-l10n-tools
+  qt6-wayland qt6-translations-l10n libplist-dev libutf8proc-dev)
+testPackages=("${buildPackages[@]}" libgtest-dev)
+displayPackages=(xvfb xdotool imagemagick)
+checkPackages=(clang-format clang-tidy shellcheck)
+
+# Runs a command and shows what it wrote only when it failed.
+quietly() {
+  local log status=0
+  log=$(mktemp)
+  "$@" >"$log" 2>&1 </dev/null || status=$?
+  [ "$status" -eq 0 ] || cat "$log" >&2
+  rm -f "$log"
+  return "$status"
+}
+
+isInstalled() {
+  [[ $(dpkg-query -W -f='${db:Status-Status}\n' "$1" 2>/dev/null) == installed* ]]
+}
+
+asRoot() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+aptGet() {
+  asRoot env DEBIAN_FRONTEND=noninteractive apt-get -y -qq -o DPkg::Lock::Timeout=300 \
+    --no-install-recommends "$@"
+}
+
+installMissing() {
+  local package missing=()
+  # Elsewhere than on Debian, CMake says what is missing.
+  command -v dpkg-query >/dev/null || return 0
+  for package; do
+    isInstalled "$package" || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  echo "Installing ${missing[*]}"
+  if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+    echo "Only root can install packages, and there is no sudo." >&2
+    return 1
+  fi
+  # Package lists that are absent or outdated show themselves by a failing download.
+  aptGet --download-only install "${missing[@]}" >/dev/null 2>&1 </dev/null ||
+    quietly aptGet update || true
+  quietly aptGet install "${missing[@]}"
+}
