@@ -113,8 +113,7 @@ bool Preferences::save(const std::vector<std::string>& disks, std::string_view f
   output_.print("newFileOutput test: ", platform::optionalText(prefsURL2));
   const std::string text = joined(preferences);
   output_.print(text);
-  const bool saved = prefsURL && prefsURL->isFile() &&
-                     !platform::writeFile(platform::withExistingFolder(prefsURL->path()), text);
+  const bool saved = prefsURL && prefsURL->isFile() && !platform::writeFile(prefsURL->path(), text);
   if (!saved) {
     output_.print("couldn't save prefs file");
   }

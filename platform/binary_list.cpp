@@ -119,7 +119,8 @@ class BinaryList {
 }  // namespace
 
 bool isHarmless(std::string_view content, std::size_t limit) {
-  return !content.starts_with(magic) || BinaryList(content, limit).isHarmless();
+  return content.starts_with(magic) ? BinaryList(content, limit).isHarmless()
+                                    : content.find('\0') == content.npos;
 }
 
 }  // namespace platform

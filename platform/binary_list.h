@@ -5,10 +5,9 @@
 
 namespace platform {
 
-/// Whether `content` is no binary property list, or one that the library copes with. It has to stay
-/// within `limit` bytes with every object written out wherever it is named, since the library makes
-/// a copy each time; and the library ends the program over a text with a zero in it and over a date
-/// that no calendar has.
+/// Whether the library copes with `content`, XML or binary. It ends the program over a text with a
+/// zero in it and over a date that no calendar has, and it makes a copy of an object each time that
+/// a binary list names it: written out in this way the list has to stay within `limit` bytes.
 bool isHarmless(std::string_view content, std::size_t limit);
 
 }  // namespace platform

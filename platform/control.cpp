@@ -10,16 +10,6 @@ void PopUpButton::addItems(const std::vector<std::string>& titles) {
   changed();
 }
 
-void PopUpButton::removeItem(std::size_t index) {
-  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
-  if (selected_ && *selected_ > index) {
-    --*selected_;
-  } else if (selected_ && *selected_ >= items_.size()) {
-    selected_.reset();
-  }
-  changed();
-}
-
 void ComboBox::addItem(std::string item) {
   items_.push_back(std::move(item));
   changed();

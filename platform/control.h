@@ -116,7 +116,6 @@ class PopUpButton : public Control, public Choice {
   using Control::Control;
 
   void addItems(const std::vector<std::string>& titles);
-  void removeItem(std::size_t index);
   void selectItem(std::size_t index) { set(selected_, std::optional(index)); }
 };
 

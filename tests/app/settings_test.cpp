@@ -81,23 +81,6 @@ TEST(SettingsStore, UnusableFilesGiveTheShippedValues) {
   }
 }
 
-TEST(SettingsStore, AnUnusableKeyTakesItsShippedValueAlone) {
-  FakeHost host;
-  host.home.write(FakeHost::settings, settings());
-  EXPECT_EQ(load(host), own);
-  EXPECT_EQ(host.said(), "");
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    for (const std::string& instead : {std::string(), wrong[i]}) {
-      host.home.write(FakeHost::settings, settings(i, instead));
-      std::vector<std::string> expected = own;
-      expected[i] = shipped[i];
-      EXPECT_EQ(load(host), expected);
-      EXPECT_EQ(host.said(), "Prefs.plist: no usable \"" + keys[i] + "\", taking " +
-                                 (i == 0 ? "\"\"" : shipped[i]) + "\n");
-    }
-  }
-}
-
 // Gives sharedVar the values of `own` and has them written.
 void changeAll(SettingsStore& store) {
   sharedVar::pathToQuil = own[0];

@@ -177,58 +177,6 @@ TEST_F(Editing, NothingChangesOnTheWayPast) {
   }
 }
 
-TEST_F(Editing, SteppersCountByKeyAndMouseAndTakeNoText) {
-  open("udpport 65534\nmousewheellines many\n");
-  showTab("Network");
-  auto* const port = find("portStep");
-  auto* const shown = find<QLineEdit>("portUDP");
-  port->setFocus();
-  type("12");
-  key(Qt::Key_Backspace);
-  EXPECT_EQ(shown->text(), "65534");
-  key(Qt::Key_Up);
-  key(Qt::Key_Up);
-  EXPECT_EQ(value(Key::udpport), "65535");
-  click(port, {port->width() - 6, port->height() - 6});
-  EXPECT_EQ(value(Key::udpport), "65534");
-  EXPECT_EQ(shown->text(), "65534");
-  EXPECT_TRUE(shown->isReadOnly());
-
-  showTab("Sound & Input");
-  EXPECT_EQ(find<QLineEdit>("mouseScroll")->text(), "many");
-  key(Qt::Key_S, control);
-  EXPECT_EQ(saved(Key::mousewheellines), "many");
-  find("mouseScrollLvl")->setFocus();
-  key(Qt::Key_Down);
-  EXPECT_EQ(value(Key::mousewheellines), "2");
-  key(Qt::Key_PageDown);
-  EXPECT_EQ(value(Key::mousewheellines), "1");
-}
-
-TEST_F(Editing, CheckBoxesAnswerSpaceAndTheirLetters) {
-  open("nosound odd\nkeycodes false\n");
-  showTab("Sound & Input");
-  auto* const sound = find<QCheckBox>("disableSound");
-  EXPECT_TRUE(sound->isChecked());
-  sound->setFocus();
-  key(Qt::Key_Space);
-  EXPECT_EQ(value(Key::nosound), "false");
-  key(Qt::Key_D, alt);
-  QTest::qWait(200);
-  EXPECT_EQ(value(Key::nosound), "true");
-  EXPECT_FALSE(find("rawKeyFile")->isEnabled());
-  typeInto("audioOut", "/dev/a");
-  key(Qt::Key_K, alt);
-  QTest::qWait(200);
-  EXPECT_EQ(value(Key::keycodes), "true");
-  EXPECT_EQ(value(Key::dsp), "/dev/a");
-  EXPECT_TRUE(find("rawKeyFile")->isEnabled());
-  typeInto("rawKeyFile", "/keys");
-  click("rawKeys");
-  EXPECT_FALSE(find("rawKeyFile")->isEnabled());
-  EXPECT_EQ(value(Key::keycodefile), "/keys");
-}
-
 TEST_F(Editing, WhatAnAccessibilityToolSetsIsCommittedWhenTheFocusLeaves) {
   open("jitcachesize 8192\n");
   for (const auto& [tab, name, text, key] :

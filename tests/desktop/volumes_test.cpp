@@ -60,18 +60,6 @@ class Volumes : public tests::WindowTest {
   QTableView* table = nullptr;
 };
 
-TEST_F(Volumes, TheTableShowsPathSizeAndKind) {
-  const std::string image = fake.home.write("S\xc3\xbc Disk.dsk", std::string(1474560, 'x'));
-  openDisks({image, "/no/such.dsk", "relative.dsk"});
-  const std::vector<std::string> cells = {image,          "1.5 MB",  "Disk Image",
-                                          "/no/such.dsk", "Zero KB", "Not Found!"};
-  for (int at = 0; at < 6; ++at) {
-    EXPECT_EQ(cell(at / 3, at % 3), cells.at(static_cast<std::size_t>(at)));
-    EXPECT_EQ(cell(at / 3, at % 3, Qt::ToolTipRole), cell(at / 3, at % 3));
-  }
-  EXPECT_EQ(cell(2, 2), "No Path!");
-}
-
 TEST_F(Volumes, KeysRemoveMoveAndAdd) {
   openDisks({"/A", "/B", "/C", "/D"});
   clickRow(1);

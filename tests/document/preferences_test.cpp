@@ -152,18 +152,6 @@ TEST_F(PreferencesTest, WhatCannotBeReadGivesDefaultsAndStays) {
   }
 }
 
-TEST_F(PreferencesTest, DanglingLinks) {
-  fs::create_symlink("no/where", home.path(file));
-  preferences.load();
-  EXPECT_FALSE(contains(said(), "\n52\n")) << "nothing was written";
-  lookUpAll(preferences);
-  EXPECT_FALSE(preferences.save({}, ""));
-  fs::create_directory(home.path("no"));
-  EXPECT_TRUE(preferences.save({}, ""));
-  EXPECT_TRUE(fs::is_symlink(home.path(file)));
-  EXPECT_EQ(home.read("no/where"), firstFile);
-}
-
 TEST_F(PreferencesTest, SavesEverythingAnewAndSaysSo) {
   home.write(file, "# mine\ncpu 4\ndisk /a\nunknown 1\ncpu 2\nseriala\nmixer \n");
   preferences.load();

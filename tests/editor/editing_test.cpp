@@ -80,25 +80,6 @@ TEST(Editing, TextsBoxesAndSteppers) {
   EXPECT_FALSE(c.input.rawKeyFile.field.isEnabled());
 }
 
-TEST(Editing, PopUps) {
-  OpenWindow window(fileWith(Key::frameskip, "3"));
-  run(window, {
-      {[](C& c) { choose(c.machine.stateStart.button, 1); }, "1\n", Key::bootdrive, "1"},
-      {[](C& c) { choose(c.machine.stateStart.button, 0); }, "0\n", Key::bootdrive, "0"},
-      {[](C& c) { choose(c.machine.modelID.button, 1); }, "1\n", Key::modelid, "14"},
-      {[](C& c) { choose(c.machine.modelID.button, 0); }, "0\n", Key::modelid, "5"},
-      {[](C& c) { choose(c.input.mouseWheel.button, 0); }, "0\n", Key::mousewheelmode, "0"},
-      {[](C& c) { choose(c.input.mouseWheel.button, 1); }, "1\n", Key::mousewheelmode, "1"},
-      {[](C& c) { choose(c.display.refreshRate.button, 3); }, "3\n4\n", Key::frameskip, "4"},
-      {[](C& c) { choose(c.display.refreshRate.button, 6); }, "6\n12\n", Key::frameskip, "12"},
-      {[](C& c) { choose(c.display.refreshRate.button, 7); }, "7\n3\n", Key::frameskip, "3"},
-      {[](C& c) { choose(c.machine.cpuType.button, 0); }, "0\n2\nfalse\n", Key::cpu, "2"},
-      {[](C& c) { choose(c.machine.cpuType.button, 1); }, "1\n2\ntrue\n", Key::fpu, "true"},
-      {[](C& c) { choose(c.machine.cpuType.button, 2); }, "2\n3\nfalse\n", Key::fpu, "false"},
-      {[](C& c) { choose(c.machine.cpuType.button, 3); }, "3\n3\ntrue\n", Key::cpu, "3"},
-      {[](C& c) { choose(c.machine.cpuType.button, 4); }, "4\n4\ntrue\n", Key::cpu, "4"}});
-}
-
 // Each value is what a save writes: until then the parts stand apart.
 TEST(Editing, ScreenParts) {
   OpenWindow window(fileWith(Key::screen, "win/1280/768"));

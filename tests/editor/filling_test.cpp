@@ -160,29 +160,5 @@ TEST(Filling, SaysEachStepInOrder) {
   EXPECT_TRUE(window.controller.machine.ramSizeMB.box.completes());
 }
 
-TEST(Filling, RomIsNoCdrom) {
-  const std::string line = "rom " + romDefault + "\n";
-  const std::vector<std::array<std::string, 3>> cases = {
-      {"nocdrom true\nrom /x/Mac.rom\n", romDefault,
-       "[\"nocdrom true\", \"rom /x/Mac.rom\"]\nno entry for rom, just nocdrom\nrom  setting has "
-       "value: " +
-           line},
-      {"rom \nnocdrom true\n", romDefault,
-       "[\"rom \", \"nocdrom true\"]\nSetting for rom is: -rom -\nSetting has no value, "
-       "newprefs: " +
-           line},
-      {"cpu 4\n", romDefault, "[]\nrom  setting has value: " + line},
-      {" rom /x\n", " /x",
-       "[\" rom /x\"]\nSetting for rom is: - rom /x-\nSetting has value:  rom "
-       "/x\n"}};
-  for (const auto& [file, value, said] : cases) {
-    OpenWindow window(file);
-    EXPECT_EQ(window.controller.machine.romFile.field.stringValue(), value);
-    const std::string all = window.host.said();
-    const std::size_t at = all.find("All matches for -rom- : ");
-    EXPECT_EQ(all.substr(at + 24, said.size()), said);
-  }
-}
-
 }  // namespace
 }  // namespace editor

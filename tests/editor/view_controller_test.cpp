@@ -75,32 +75,6 @@ TEST_F(ViewControllerTest, Starts) {
   EXPECT_FALSE(controller.saveAndLaunch().saved);
 }
 
-TEST_F(ViewControllerTest, EndsWithoutSaving) {
-  platform::Window shown;
-  controller.viewWillAppear(shown);
-  host.said();
-  controller.isQuit.sendAction();
-  EXPECT_EQ(host.said(), "<terminate>\n");
-  shown.willClose();
-  EXPECT_EQ(host.said(), "windowWillClose\n<terminate>\n");
-  EXPECT_TRUE(prefs().starts_with("# mine"));
-}
-
-TEST_F(ViewControllerTest, SavesToTheFileThatTheFieldNames) {
-  const auto enter = [&](const std::string& text) {
-    controller.filename_field.edit([&] { controller.filename_field.setStringValue(text); });
-  };
-  enter(home + "/other");
-  EXPECT_TRUE(controller.savePrefsAny());
-  EXPECT_EQ(host.home.read("other"), "disk /no where\n" + defaultFile());
-  fs::remove(host.home.path("other"));
-  controller.copyPrefs.sendAction();
-  EXPECT_EQ(host.home.read("other"), prefs());
-  enter("a b");
-  EXPECT_FALSE(controller.savePrefsAny());
-  EXPECT_TRUE(prefs().starts_with("# mine"));
-}
-
 TEST_F(ViewControllerTest, TakesOverFrontEndSettings) {
   EXPECT_TRUE(controller.startQuil.isEnabled());
   for (const bool on : {false, true, true}) {
@@ -129,41 +103,6 @@ TEST_F(ViewControllerTest, TakesOverFrontEndSettings) {
     EXPECT_EQ(other.application.calls.size(), on ? 2U : 1U) << "to quit or not";
     EXPECT_EQ(other.workspace.launched, std::vector<std::string>{"/My Quillon.app"});
     EXPECT_EQ(other.home.read(tests::FakeHost::prefs), defaultFile());
-  }
-}
-
-TEST_F(ViewControllerTest, ScsiTabComesAndGoesWithItsContent) {
-  auto& tabs = controller.tabs;
-  auto& items = tabs.tabViewC.items();
-  EXPECT_EQ(items.size(), 6U);
-  const auto content = sharedVar::newScsiTab;
-  const auto set = [&](bool on) {
-    sharedVar::scsiTabState = on;
-    host.notifications.post("NotificationID");
-  };
-  tabs.scsiID0.setOn(true);
-  std::shared_ptr<platform::TabViewItem> former;
-  for (int round = 0; round < 3; ++round) {
-    set(true);
-    ASSERT_EQ(items.size(), 7U);
-    EXPECT_EQ(items[1], tabs.scsiTab);
-    EXPECT_NE(items[1], former) << "a new item around the same content";
-    EXPECT_EQ(items[1]->view, content);
-    EXPECT_EQ(items[1]->identifier + items[1]->label, "scsiTabSCSI");
-    former = items[1];
-    set(true);
-    EXPECT_EQ(items[1], former) << "no change";
-    set(false);
-    set(false);
-    EXPECT_EQ(items.size(), 6U);
-  }
-  EXPECT_TRUE(tabs.scsiID0.isOn());
-  // With another number of tabs nothing comes or goes.
-  set(true);
-  tabs.tabViewC.addTabViewItem(std::make_shared<platform::TabViewItem>());
-  for (const bool on : {true, false}) {
-    set(on);
-    EXPECT_EQ(items.size(), 8U);
   }
 }
 

@@ -38,26 +38,4 @@ TEST(ComboBox, TellsTypedFromChosen) {
   EXPECT_FALSE(box.indexOfSelectedItem());
 }
 
-TEST(PopUpButton, KeepsTheChosenEntryWhenOthersGo) {
-  PopUpButton button("card_button");
-  button.addItems({"none", "etherhelper", "slirp"});
-  EXPECT_EQ(button.indexOfSelectedItem(), 0);
-  button.selectItem(2);
-  button.removeItem(1);
-  EXPECT_EQ(button.indexOfSelectedItem(), 1);
-  button.removeItem(1);
-  EXPECT_FALSE(button.indexOfSelectedItem());
-}
-
-TEST(TabView, KeepsTheOrderOfItsItems) {
-  TabView tabs("tabs");
-  const auto first = std::make_shared<TabViewItem>();
-  const auto second = std::make_shared<TabViewItem>();
-  tabs.addTabViewItem(second);
-  tabs.insertTabViewItem(first, 0);
-  EXPECT_EQ(tabs.items(), (std::vector{first, second}));
-  tabs.removeTabViewItem(first);
-  EXPECT_EQ(tabs.items(), std::vector{second});
-}
-
 }  // namespace platform

@@ -73,27 +73,6 @@ TEST_F(FilesTest, WithoutSpaceAllStaysAsItWas) {
   EXPECT_TRUE(fs::is_symlink(folder.path("dangling")));
 }
 
-TEST_F(FilesTest, HeedsPermissions) {
-  const std::string readOnly = folder.write("read only", "old\n");
-  const std::string writeOnly = folder.write("write only", "a longer content\n");
-  // The superuser may read and write everything: be somebody else for a while.
-  const uid_t user = ::geteuid() == 0 ? 65534 : ::geteuid();
-  for (const std::string& path : {readOnly, writeOnly, folder.path()}) {
-    ASSERT_EQ(::chown(path.c_str(), user, static_cast<gid_t>(-1)), 0);
-  }
-  fs::permissions(readOnly, fs::perms(0400));
-  fs::permissions(writeOnly, fs::perms(0200));
-  ASSERT_EQ(::seteuid(user), 0);
-  EXPECT_EQ(writeFile(readOnly, "new\n"), std::errc::permission_denied);
-  EXPECT_FALSE(writeFile(writeOnly, "new\n"));
-  EXPECT_FALSE(readFile(writeOnly, error));
-  EXPECT_EQ(error, std::errc::permission_denied);
-  fs::permissions(writeOnly, fs::perms(0600));
-  EXPECT_EQ(::seteuid(::getuid()), 0);
-  EXPECT_EQ(folder.read("read only"), "old\n");
-  EXPECT_EQ(folder.read("write only"), "new\n");
-}
-
 TEST_F(FilesTest, RefusesWhatIsNoFileWithoutWaiting) {
   ASSERT_EQ(::mkfifo(folder.path("fifo").c_str(), 0600), 0);
   const std::pair<std::string, std::errc> cases[] = {
@@ -130,19 +109,6 @@ TEST_F(FilesTest, ReadsWithinItsLimits) {
   withLimit(RLIMIT_AS, rlim_t{2} << 30U, [&] { EXPECT_FALSE(readFile(file, error)); });
   EXPECT_EQ(error, std::errc::not_enough_memory);
 #endif
-}
-
-TEST_F(FilesTest, CopiesNeverReplace) {
-  const std::string source = folder.write("source", "new");
-  fs::permissions(source, fs::perms(0640));
-  folder.write("there", "old");
-  fs::create_symlink("target", folder.path("dangling"));
-  for (const auto* name : {"there", "dangling", "source"}) {
-    EXPECT_EQ(copyFile(source, folder.path(name)), std::errc::file_exists) << name;
-  }
-  EXPECT_EQ(folder.read("there"), "old");
-  EXPECT_FALSE(copyFile(source, folder.path("copy")));
-  EXPECT_EQ(fs::status(folder.path("copy")).permissions(), fs::perms(0640));
 }
 
 TEST_F(FilesTest, DecodesOnlyMissingFolders) {

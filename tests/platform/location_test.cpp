@@ -52,10 +52,4 @@ TEST(Location, ReadsTexts) {
   EXPECT_EQ(percentDecoded("%41%zz%4%"), "A%zz%4%");
 }
 
-TEST(Location, KnowsTheFolder) {
-  EXPECT_EQ(Location::fromPath("/My Apps/Q.app").folder().text(), "file:///My%20Apps/");
-  EXPECT_EQ(Location::fromPath("/Apps/Q.app/").folder().text(), "file:///Apps/");
-  EXPECT_EQ(Location::fromPath("/Q.app").folder().text(), "file:///");
-}
-
 }  // namespace platform

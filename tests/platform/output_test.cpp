@@ -24,25 +24,6 @@ struct Pipe {
   Descriptor reading, writing;
 };
 
-TEST(DescriptorOutput, WritesAllToASlowReader) {
-  Pipe pipe;
-  std::string read;
-  std::thread reader([&] {
-    char piece[3000];
-    for (ssize_t count = 0; (count = ::read(pipe.reading.get(), piece, sizeof piece)) > 0;) {
-      read.append(piece, static_cast<std::size_t>(count));
-      std::this_thread::sleep_for(std::chrono::microseconds(200));
-    }
-  });
-  const std::string large(300'000, 'x');
-  DescriptorOutput output(pipe.writing.get());
-  output.print("first ", large, " last");
-  output.print("next");
-  pipe.writing.close();
-  reader.join();
-  EXPECT_TRUE(read == "first " + large + " last\nnext\n") << read.size();
-}
-
 TEST(DescriptorOutput, OutlivesAReaderThatIsGone) {
   const auto former = ::signal(SIGPIPE, SIG_IGN);
   Pipe pipe;

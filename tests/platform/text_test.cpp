@@ -32,16 +32,6 @@ TEST(Text, DropsWholeCharacters) {
   }
 }
 
-TEST(Text, TellsUtf8) {
-  for (const auto valid : {""sv, "a\0b"sv, "\u00e9"sv, "\u20ac"sv, "\U0001F600"sv}) {
-    EXPECT_TRUE(isUtf8(valid)) << valid;
-  }
-  for (const auto invalid : {"\xe9t"sv, "\xc0\xaf"sv, "\xed\xa0\x80"sv, "\xf4\x90\x80\x80"sv,
-                             "a\x80"sv, "abc\xe2\x82"sv}) {
-    EXPECT_FALSE(isUtf8(invalid)) << invalid;
-  }
-}
-
 TEST(Text, ParsesWholeIntegers) {
   EXPECT_EQ(parseInt64("+7"), 7);
   EXPECT_EQ(parseInt64("-007"), -7);

@@ -75,12 +75,6 @@ TEST_F(WorkspaceTest, DetachesWhatItStarts) {
   EXPECT_EQ(errno, ECHILD);
 }
 
-TEST_F(WorkspaceTest, StartsWhenChildrenAreNotWaitedFor) {
-  const auto former = ::signal(SIGCHLD, SIG_IGN);
-  EXPECT_NE(launch(program("program")), "");
-  ::signal(SIGCHLD, former);
-}
-
 TEST_F(WorkspaceTest, FindsTheExecutable) {
   const auto naming = [&](const std::string& bundle, const std::string& name) {
     folder.write(
@@ -118,20 +112,6 @@ TEST_F(WorkspaceTest, TellsWhatCannotBeStarted) {
   }
   EXPECT_FALSE(workspace.launchApplication(""));
   EXPECT_FALSE(workspace.launchApplication(program("cut") + std::string("\0.app", 5)));
-}
-
-TEST(Bundle, DISABLED_TellsItself) { std::ofstream("bundle") << Bundle::mainBundle().path(); }
-
-// Runs a copy of this program through a link; it tells what it takes for its bundle.
-TEST(Bundle, IsFoundFromTheExecutable) {
-  const tests::TemporaryFolder folder;
-  fs::create_directories(folder.path("My Q.app/Contents/MacOS"));
-  fs::copy_file("/proc/self/exe", folder.path("My Q.app/Contents/MacOS/settings"));
-  fs::create_symlink("My Q.app/Contents/MacOS/settings", folder.path("link"));
-  const std::string command = "cd " + folder.path() + " && ./link --gtest_brief=1" +
-                              " --gtest_also_run_disabled_tests --gtest_filter=*TellsItself";
-  EXPECT_EQ(std::system(command.c_str()), 0);
-  EXPECT_EQ(folder.read("bundle"), folder.path("My Q.app"));
 }
 
 }  // namespace

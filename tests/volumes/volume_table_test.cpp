@@ -111,51 +111,6 @@ TEST_F(VolumeTableTest, LoadsLinesAndTellsOfEachStep) {
   EXPECT_EQ(cell(1, 2) + cell(2, 2), "SizeCell|Zero KB|KindCell|Disk Image|");
 }
 
-TEST_F(VolumeTableTest, PathsComeBackAsTheyWere) {
-  std::istringstream text(
-      "/a b/c\n*/starred\n /blank\n/cr\r\n/100%\n/%20%zz\nc:/dos\na:b\nhttp://x/y\n~/tilde\n"
-      "a?b#c;d\n//host//x\n/\u00fc\n/\u0301 e\n/\n.\nfile:///x\n?\n%2F\n/[x]\\|^`{}\n");
-  Strings paths = {std::string("/nul\0x", 6)};
-  Strings lines = {" disk /no", "xdisk /no", "disk ", "disk " + paths[0]};
-  for (std::string path; std::getline(text, path);) {
-    paths.push_back(path);
-    lines.push_back("disk " + path);
-  }
-  load(lines);
-  EXPECT_EQ(table.volumes().paths(), paths);
-  for (std::size_t row = 0; row < paths.size(); ++row) {
-    EXPECT_EQ(cell(2, row) == "KindCell|No Path!|", !paths[row].starts_with('/')) << paths[row];
-  }
-  VolumeTable other(host.output, host.panels);
-  other.load({"disk /folder/", "disk rel/", "disk /both//"});
-  EXPECT_EQ(other.volumes().paths(), (Strings{"/folder", "rel", "/both/"}));
-}
-
-TEST_F(VolumeTableTest, Reloads) {
-  loadImages("AB");
-  int reloads = -1;
-  table.tableView.attach([&] { ++reloads; });
-  const std::string name = cell(0, 1);
-  using platform::State;
-  for (const auto& [state, said] : {std::pair(State::off, "0\nronMode off\n"),
-                                    {State::mixed, "-1\n"},
-                                    {State::on, "1\nronMode on\n"},
-                                    {State::off, "0\nronMode off\n"}}) {
-    host.said();
-    table.ronMode.edit([&, to = state] { table.ronMode.setState(to); });
-    EXPECT_EQ(host.said(), said);
-    EXPECT_EQ(cell(0, 1), name) << "both lists are the same";
-  }
-  EXPECT_EQ(reloads, 3);
-  EXPECT_TRUE(host.said().starts_with("loCalmode volRegular\nfile:///"));
-  EXPECT_FALSE(table.viewFor(std::nullopt, 0));
-  EXPECT_EQ(reloads, 3);
-  table.acceptDrop({"0"}, 2);
-  EXPECT_FALSE(table.viewFor(3, 0));
-  EXPECT_FALSE(table.viewFor(3, 0));
-  EXPECT_EQ(reloads, 5) << "one for the drop, one when it is noticed";
-}
-
 TEST_F(VolumeTableTest, Adds) {
   loadImages("A");
   table.browseFile.sendAction();
@@ -276,19 +231,6 @@ TEST_F(VolumeTableTest, RandomDropsAgreeWithANaiveModel) {
     ASSERT_EQ(letters(), model) << "round " << round;
     ASSERT_EQ(selectedLetters(), selected) << "round " << round;
   }
-}
-
-TEST_F(VolumeTableTest, SavePanelOnlySaysWhere) {
-  table.sheetCreate.sendAction();
-  EXPECT_EQ(host.said(), "");
-  host.panels.answers = {{Location::fromPath("/a b.dsk")}};
-  table.sheetCreate.sendAction();
-  EXPECT_EQ(host.said(), "file:///a%20b.dsk\n");
-  const platform::SavePanel& panel = host.panels.save;
-  EXPECT_EQ(panel.title + "|" + panel.message + "|" + panel.nameFieldStringValue,
-            "Create a new blank volume|Create a new blank unformatted disk image|Unformatted");
-  EXPECT_EQ(panel.allowedFileTypes, Strings{"dsk"});
-  EXPECT_TRUE(panel.canSelectHiddenExtension && !panel.showsTagField && !panel.extensionHidden);
 }
 
 }  // namespace
