@@ -7,6 +7,7 @@
 
 #include "app/shared_var.h"
 #include "desktop/texts.h"
+#include "platform/files.h"
 
 namespace desktop {
 
@@ -27,7 +28,8 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   size->setAccessibleName(tr("Size in megabytes"));
   size->setPlaceholderText(QLatin1String("100"));
   form->addRow(tr("&Size (MB):"), size);
-  auto* const place = new QLabel(shown(app::sharedVar::pathToQuilRoot));
+  auto* const place =
+      new QLabel(shown(platform::withExistingFolder(app::sharedVar::pathToQuilRoot)));
   place->setWordWrap(true);
   form->addRow(tr("Folder:"), place);
 

@@ -36,7 +36,6 @@ FindField::FindField(const SettingWidgets& places,
   setToolTip(tr("Type a word of a setting's name, its key or its help."));
   setWhatsThis(toolTip());
   setAccessibleDescription(toolTip());
-  setClearButtonEnabled(true);
   connect(this, &QLineEdit::returnPressed, this, [this] {
     if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
       completer()->setCompletionPrefix(text());
@@ -53,10 +52,11 @@ QSize FindField::sizeHint() const {
 
 QSize FindField::minimumSizeHint() const { return sizeHint(); }
 
-// Only who searches needs the list.
+// Only who searches needs the list, and the button whose picture takes long to load.
 void FindField::focusInEvent(QFocusEvent* event) {
   if (completer() == nullptr) {
     buildList();
+    setClearButtonEnabled(true);
   }
   QLineEdit::focusInEvent(event);
   selectAll();

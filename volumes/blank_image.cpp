@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -37,6 +38,12 @@ std::error_code checkFreeSpace(int descriptor, std::size_t length, std::size_t a
 std::error_code reserve(int descriptor, std::size_t length, std::size_t allocated) {
   if (length == 0) {
     return {};
+  }
+  // A limit on file sizes does not keep space from being reserved, only from being written.
+  rlimit limit{};
+  if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
+      length > limit.rlim_cur) {
+    return std::make_error_code(std::errc::file_too_large);
   }
 #ifdef __linux__
   const auto bytes = static_cast<off_t>(length);

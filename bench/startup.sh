@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Times the start of the program from exec to its first painted window, alternately with a bare Qt
+# window of the same kind, on a virtual display.
+#
+#   startup.sh [ROUNDS]    (15)
+#
+# Ratios are to the bare window: the median of the rounds' ratios.
+set -euo pipefail
+# shellcheck source=bench/common.sh
+. "$(dirname "$(readlink -f "$0")")/common.sh"
+buildTargets quillon-settings floor first_paint
+installMissing xvfb
+rounds=${1:-15}
+folder=$(mktemp -d "${TMPDIR:-/tmp}/startup-XXXXXX")
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -noreset -nolisten tcp 3>"$folder/display" 2>/dev/null &
+server=$!
+trap 'kill "$server"; rm -rf "$folder"' EXIT
+for _ in $(seq 100); do
+  [ ! -s "$folder/display" ] || break
+  sleep 0.1
+done
+DISPLAY=:$(<"$folder/display")
+export DISPLAY LANG=C.UTF-8 XDG_RUNTIME_DIR=$folder DBUS_SESSION_BUS_ADDRESS=disabled:
+
+declare -A disks=([floor]=6 [lines40]=6 [disks1]=1 [disks1000]=1000)
+names=(floor lines40 disks1 disks1000)
+for name in "${names[@]}"; do
+  mkdir "$folder/$name"
+  samplePreferences "${disks[$name]}" 0 >"$folder/$name/.quillon_prefs"
+done
+
+start() {
+  local what=$program
+  [ "$1" != floor ] || what=$binaries/floor
+  HOME=$folder/$1 "$binaries/first_paint" "$what"
+}
+
+for name in "${names[@]}"; do start "$name" >/dev/null; done
+for _ in $(seq "$rounds"); do
+  for name in "${names[@]}"; do start "$name" >>"$folder/$name.runs"; done
+done
+
+ratioTo() { # NAME BASE COLUMN
+  paste "$folder/$1.runs" "$folder/$2.runs" |
+    awk -v c="$3" '{ split($0, n, /[ \t]+/); print n[c] / n[c + 3] }' | median
+}
+column() { awk -v c="$2" '{ print $c }' "$folder/$1.runs" | median; }
+
+echo "name       paint ms  ratio   CPU ms  ratio   peak KiB  ratio"
+for name in "${names[@]}"; do
+  printf '%-10s %-9.1f %-7.2f %-7.1f %-7.2f %-9.0f %.2f\n' "$name" \
+    "$(column "$name" 1)" "$(ratioTo "$name" floor 1)" "$(column "$name" 2)" \
+    "$(ratioTo "$name" floor 2)" "$(column "$name" 3)" "$(ratioTo "$name" floor 3)"
+done
+printf '1,000 disk lines to one: paint %.2f, CPU %.2f\n' "$(ratioTo disks1000 disks1 1)" \
+  "$(ratioTo disks1000 disks1 2)"
