@@ -50,7 +50,7 @@ class AnyDialog : public QFileDialog {
   void accept() override {
     const QStringList files = selectedFiles();
     if (files.size() == 1 && QFileInfo(files.front()).isFile()) {
-      QDialog::accept();
+      done(Accepted);
     } else {
       QFileDialog::accept();
     }

@@ -44,6 +44,12 @@ DescriptorOutput::DescriptorOutput(int descriptor)
 }
 
 void DescriptorOutput::write(std::initializer_list<std::string_view> parts) {
+  std::size_t size = 0;
+  for (const std::string_view part : parts) {
+    size += part.size();
+  }
+  broken_ = broken_ || size > room_;
+  room_ -= std::min(size, room_);
   // One line is best written in one piece: other processes may write to the same stream.
   std::string line;
   for (const std::string_view part : parts) {

@@ -36,7 +36,8 @@ class BufferOutput : public Output {
 };
 
 /// Writes to an open file descriptor. A reader that has gone away, or one that takes nothing for a
-/// few seconds, ends the output for good: diagnostics must never stop the window.
+/// few seconds, ends the output for good, and so does a line that would make it more than 1 GiB:
+/// diagnostics must neither stop the window nor fill the disk.
 class DescriptorOutput : public Output {
  public:
   explicit DescriptorOutput(int descriptor);
@@ -47,6 +48,7 @@ class DescriptorOutput : public Output {
 
   int descriptor_;
   Descriptor terminal_;  // the same, opened not to wait, where it is a terminal
+  std::size_t room_ = std::size_t{1} << 30U;  // bytes still to be taken
   bool mayBlock_;
   bool broken_ = false;
 };

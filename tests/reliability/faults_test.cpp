@@ -1,0 +1,297 @@
+// System calls that fail, and the end at any moment. The calls of this program, the core's among
+// them, go through the functions below instead of the C library's.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdarg>
+#include <random>
+
+#include "editor/view_controller.h"
+#include "fuzz/model.h"
+#include "platform/files.h"
+#include "tests/support/fake_host.h"
+#include "volumes/blank_image.h"
+
+namespace {
+
+struct Fault {
+  enum Extent { once, fromThen, untilThen };
+
+  std::string_view call;
+  int error = 0;
+  int due = 0;  // counted from 1
+  Extent extent = once;
+  std::function<void()> change;  // happens instead of the error
+  int seen = 0;
+  bool halves = false;  // each write takes half of what it is given
+};
+
+Fault& fault() {
+  static Fault current;
+  return current;
+}
+
+bool strikes(std::string_view call) {
+  Fault& now = fault();
+  if (now.call != call) {
+    return false;
+  }
+  ++now.seen;
+  const bool due = now.extent == Fault::once       ? now.seen == now.due
+                   : now.extent == Fault::fromThen ? now.seen >= now.due
+                                                   : now.seen <= now.due;
+  if (due && now.change) {
+    now.change();
+    return false;
+  }
+  errno = due ? now.error : errno;
+  return due;
+}
+
+template <typename... Arguments>
+auto call(std::string_view name, long number, Arguments... arguments) {
+  return strikes(name) ? -1 : ::syscall(number, arguments...);
+}
+
+std::size_t taken(std::size_t size) { return fault().halves ? (size + 1) / 2 : size; }
+
+}  // namespace
+
+extern "C" {
+int open(const char* path, int flags, ...) {
+  va_list rest;
+  va_start(rest, flags);
+  const int mode = va_arg(rest, int);
+  va_end(rest);
+  return static_cast<int>(call("open", SYS_openat, AT_FDCWD, path, flags, mode));
+}
+ssize_t pread(int file, void* bytes, size_t size, off_t at) {
+  return call("pread", SYS_pread64, file, bytes, size, at);
+}
+ssize_t pwrite(int file, const void* bytes, size_t size, off_t at) {
+  return call("pwrite", SYS_pwrite64, file, bytes, taken(size), at);
+}
+ssize_t write(int file, const void* bytes, size_t size) {
+  return call("write", SYS_write, file, bytes, size);
+}
+int fallocate(int file, int mode, off_t at, off_t size) {
+  return static_cast<int>(call("fallocate", SYS_fallocate, file, mode, at, size));
+}
+int ftruncate(int file, off_t size) noexcept {
+  return static_cast<int>(call("ftruncate", SYS_ftruncate, file, size));
+}
+int fsync(int /*file*/) { return strikes("fsync") ? -1 : 0; }  // the disk itself is not tested
+int close(int file) {                                          // which closes, whatever it says
+  const bool fails = strikes("close");
+  const long result = ::syscall(SYS_close, file);
+  return fails ? -1 : static_cast<int>(result);
+}
+}
+
+namespace {
+
+using document::Key;
+using tests::FakeHost;
+
+struct Kind {
+  int error;
+  Fault::Extent extent;
+};
+constexpr Kind kinds[] = {{ENOSPC, Fault::once},     {ENOSPC, Fault::fromThen},
+                          {EACCES, Fault::once},     {EROFS, Fault::fromThen},
+                          {EIO, Fault::once},        {EIO, Fault::fromThen},
+                          {EMFILE, Fault::fromThen}, {EINTR, Fault::untilThen}};
+
+// Does `body` with the first, the second, ... call failing, until none fails any more.
+template <typename Body>
+void eachFault(std::initializer_list<const char*> calls, Body body) {
+  for (const char* const name : calls) {
+    for (const Kind& kind : kinds) {
+      for (const bool halves : {false, true}) {
+        // Nobody can take back half a write on a disk that takes no more writes at all, and so many
+        // interruptions in a row are enough.
+        const int last = kind.extent == Fault::untilThen            ? 3
+                         : halves && kind.extent == Fault::fromThen ? 1
+                                                                    : 1000;
+        int due = 1;
+        for (bool struck = true; struck && due <= last; ++due) {
+          SCOPED_TRACE(std::string(name) + " " + std::to_string(due) + ": " +
+                       strerrorname_np(kind.error) + (halves ? ", halves" : ""));
+          body(Fault{name, kind.error, due, kind.extent, nullptr, 0, halves});
+          struck = std::exchange(fault(), Fault()).seen >= due;
+        }
+        EXPECT_GT(due, halves && last == 1 ? 1 : 2) << name << " is never called";
+      }
+    }
+  }
+}
+
+std::string fileWith(std::size_t disks) {
+  std::string text;
+  for (std::size_t disk = 0; disk < disks; ++disk) {
+    text += "disk /a/disk image " + std::to_string(disk) + ".dsk\n";
+  }
+  return text + "ramsize 8388608\n";
+}
+
+// A window over a file, its memory size changed, that is then saved with a fault.
+struct Save {
+  FakeHost host;
+  editor::ViewController window{host.host()};
+  std::string wanted;
+
+  explicit Save(const std::string& old) {
+    host.home.write(FakeHost::prefs, old);
+    window.viewDidLoad();
+    auto& box = window.machine.ramSizeMB.box;
+    box.edit([&] { box.enterText("9"); });
+    fuzz::Model model(old);
+    model[Key::ramsize] = "9437184";
+    wanted = model.text();
+  }
+
+  bool with(const Fault& planned) {
+    fault() = planned;
+    const bool saved = window.savePrefsAny();
+    fault().call = {};
+    const bool told = host.output.text.find("couldn't save prefs file") != std::string::npos;
+    EXPECT_NE(saved, told);
+    EXPECT_EQ(window.changedKeys().empty(), saved);
+    return saved;
+  }
+};
+
+TEST(Faults, ASaveLeavesTheOldOrTheNewText) {
+  std::string grows = fileWith(0);
+  std::string shrinks = fileWith(200);
+  shrinks += std::string(9000, '#') + "\n";
+  for (const std::string& old : {grows, shrinks, std::string()}) {
+    const bool cut = old == shrinks;
+    const auto sweep = [&](const Fault& planned) {
+      Save save(old);
+      if (old.empty()) {
+        std::filesystem::remove(save.host.home.path(FakeHost::prefs));
+      }
+      const bool saved = save.with(planned);
+      const std::string file = save.host.home.read(FakeHost::prefs);
+      const bool closed = planned.call == "close" && file == save.wanted;
+      EXPECT_TRUE(file == (saved ? save.wanted : old) || closed) << file.size();
+      EXPECT_TRUE(saved || planned.error != EINTR);
+      EXPECT_EQ(platform::fileExists(save.host.home.path(FakeHost::prefs)),
+                saved || !old.empty() || closed);
+    };
+    eachFault({"open", "pwrite", "fallocate", "fsync", "close"}, sweep);
+    if (!old.empty()) {
+      eachFault({"pread"}, sweep);
+    }
+    if (cut) {
+      eachFault({"ftruncate"}, sweep);
+    }
+  }
+}
+
+TEST(Faults, OpeningTouchesNoFileThatIsThere) {
+  const std::string old = fileWith(3);
+  eachFault({"open", "pread", "close"}, [&](const Fault& planned) {
+    FakeHost host;
+    host.home.write(FakeHost::prefs, old);
+    editor::ViewController window(host.host());
+    fault() = planned;
+    window.viewDidLoad();
+    fault().call = {};
+    const bool read = window.volumes.numberOfRows() == 3;
+    const bool told = host.output.text.find("/.quillon_prefs, Error: ") != std::string::npos;
+    EXPECT_NE(read, told);
+    EXPECT_TRUE(read || planned.error != EINTR);
+    EXPECT_EQ(host.home.read(FakeHost::prefs), old);
+  });
+}
+
+TEST(Faults, AnImageIsCompleteOrNotThere) {
+  eachFault({"open", "write", "fallocate", "close"}, [&](const Fault& planned) {
+    const tests::TemporaryFolder folder;
+    const std::string content(3U << 20U, '\0');
+    fault() = planned;
+    const bool failed = static_cast<bool>(volumes::writeImage(folder.path("x.dsk"), content));
+    fault().call = {};
+    EXPECT_EQ(platform::fileExists(folder.path("x.dsk")), !failed);
+    EXPECT_TRUE(failed || folder.read("x.dsk") == content);
+    EXPECT_TRUE(!failed || planned.error != EINTR);
+  });
+}
+
+TEST(Faults, WhatChangesBetweenCheckAndUseIsNoticed) {
+  namespace fs = std::filesystem;
+  const std::string old = fileWith(2);
+  struct Row {
+    const char* change;
+    std::function<void(const std::string&)> make;
+    bool saved;
+  };
+  const std::vector<Row> rows = {
+      {"vanished", [](auto&) {}, true},
+      {"a folder", [](auto& path) { fs::create_directory(path); }, false},
+      {"a pipe", [](auto& path) { ::mkfifo(path.c_str(), 0600); }, false},
+      {"a link into nowhere", [](auto& path) { fs::create_symlink("/no/where", path); }, false},
+      {"a link to itself", [](auto& path) { fs::create_symlink(path, path); }, false},
+      {"another file", [](auto& path) { std::ofstream(path) << "ramsize 1\n"; }, true},
+      {"no home folder", [](auto& path) { fs::remove_all(fs::path(path).parent_path()); }, false}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.change);
+    Save save(old);
+    const std::string path = save.host.home.path(FakeHost::prefs);
+    const auto change = [&] { fault().call = {}, fs::remove(path), row.make(path); };
+    EXPECT_EQ(save.with({"open", 0, 1, Fault::once, change, 0, false}), row.saved);
+    EXPECT_TRUE(!row.saved || save.host.home.read(FakeHost::prefs) == save.wanted);
+  }
+}
+
+std::string withoutEmptyLines(std::string text) {
+  text.erase(std::unique(text.begin(), text.end(),
+                         [](char one, char two) { return one == '\n' && two == '\n'; }),
+             text.end());
+  return text;
+}
+
+TEST(Kill, InTheMiddleOfASaveLeavesTheOldOrTheNewLines) {
+  std::mt19937 random(1);  // NOLINT: always the same moments
+  for (const std::size_t disks : {5U, 2000U}) {
+    Save old(fileWith(disks));
+    const tests::TemporaryFolder folder;
+    const std::string path = folder.path("prefs");
+    const std::string one = old.wanted;
+    const std::string two = fuzz::Model(fileWith(disks + disks / 2)).text();
+    int torn = 0;
+    int padded = 0;
+    for (int round = 0; round < 1000; ++round) {
+      folder.write("prefs", round % 2 == 0 ? one : two);
+      const pid_t child = ::fork();
+      if (child == 0) {
+        for (int turn = round;; ++turn) {
+          (void)platform::writeFile(path, turn % 2 == 0 ? two : one);
+        }
+      }
+      ::usleep(std::uniform_int_distribution<useconds_t>(100, 4000)(random));
+      ::kill(child, SIGKILL);
+      ::waitpid(child, nullptr, 0);
+      const std::string file = folder.read("prefs");
+      const std::string lines = withoutEmptyLines(file);
+      torn += lines != one && lines != two ? 1 : 0;
+      padded += lines != file ? 1 : 0;
+    }
+    std::printf("%zu bytes: 1000 ends, %d with empty lines behind, %d torn\n", two.size(), padded,
+                torn);
+    // What the system writes in one piece is never torn.
+    EXPECT_TRUE(torn == 0 || two.size() > 4096);
+  }
+}
+
+}  // namespace

@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# shellcheck disable=SC2317  # the functions are run by name
+# Runs the program in surroundings that nobody prepared for it. Argument: its built bundle.
+set -uo pipefail
+
+work=$(mktemp -d /tmp/quillon-test-XXXXXX)
+trap 'rm -rf "$work"' EXIT
+cp -R "$1" "$work/QuillonSettings.app"
+program=$work/QuillonSettings.app/Contents/MacOS/quillon-settings
+export QT_QPA_PLATFORM=offscreen
+failed=0
+
+# The stand-in for the emulator leaves the surroundings in which it was started.
+mkdir -p "$work/Quillon.app/Contents/MacOS"
+cat >"$work/Quillon.app/Contents/MacOS/Quillon" <<'EOF'
+#!/bin/sh
+/bin/cat /proc/$$/environ >"${0%/Quillon.app/*}/found"
+EOF
+chmod +x "$work/Quillon.app/Contents/MacOS/Quillon"
+
+# check NAME COMMAND...: whether the command succeeds.
+check() {
+  local name=$1 begin=$SECONDS result=ok
+  shift
+  "$@" || { result=FAILED failed=1; }
+  printf '%-7s %3d s  %s\n' "$result" $((SECONDS - begin)) "$name"
+}
+
+# Starts the emulator from a home folder; the status must be 0 and the file complete.
+starts() {
+  local home=$1
+  shift
+  rm -f "$home/.quillon_prefs"
+  timeout 20 "$@" "$program" --start >/dev/null 2>&1 && [ "$(wc -l <"$home/.quillon_prefs")" -eq 34 ]
+}
+
+# The window opens, stays, and ends when it is told to.
+opens() { timeout -k 5 -s TERM 3 "$@" "$program" >/dev/null 2>&1; [ $? -eq 124 ]; }
+
+long=$work
+while [ ${#long} -lt 3880 ]; do long+=/$(printf 'x%.0s' {1..200}); done
+for home in "$work/a plain home" "$work/ b  l a n k s " "$work/Größe ☃/e$(printf '\314\201')" \
+  "$long" "$work/"$'new\nline' "$work/100%25 # ?"; do
+  mkdir -p "$home"
+  check "HOME of ${#home} characters: ${home:0:60}" starts "$home" env HOME="$home"
+done
+check "the window with such a HOME" opens env HOME="$long"
+
+# Where HOME says nothing the account's own folder counts; a file in there is left alone.
+account=$(getent passwd "$(id -u)" | cut -d: -f6)
+for setting in -uHOME HOME= HOME=relative; do
+  [ -e "$account/.quillon_prefs" ] || check "env $setting" bash -c "cd '$work' &&
+    env $setting timeout 20 '$program' --start >/dev/null &&
+    [ -s '$account/.quillon_prefs' ] && rm '$account/.quillon_prefs'"
+done
+
+export HOME="$work/a plain home"
+check "no PATH" starts "$HOME" env -u PATH
+check "an empty environment but for HOME" starts "$HOME" env -i HOME="$HOME"
+check "the window without PATH" opens env -u PATH
+check "no home folder: told by the status" \
+  bash -c "! HOME='$work/none' timeout 20 '$program' --start >/dev/null 2>&1"
+
+# A closed stream must not be taken for a file that is opened later: the file would get the lines.
+for streams in '<&-' '>&-' '2>&-' '<&- >&- 2>&-'; do
+  check "closed streams: $streams" bash -c "rm '$HOME/.quillon_prefs'
+    timeout 20 '$program' --start >/dev/null 2>&1 $streams
+    [ \$(wc -l <'$HOME/.quillon_prefs') -eq 34 ]"
+done
+
+# The program gives up on its lines after a while, and nothing else.
+mkfifo "$work/pipe"
+exec 9<>"$work/pipe"
+yes 'disk /some/where.dsk' | head -n 2000 >"$HOME/.quillon_prefs"
+check "a full pipe that nobody reads" bash -c "timeout 20 '$program' --start >'$work/pipe' &&
+  [ \$(wc -l <'$HOME/.quillon_prefs') -eq 2034 ]"
+exec 9>&-
+
+rm -f "$work/found"
+env -i HOME="$HOME" B='two words' A=$'new\nline' LANG=xx "$program" --start >/dev/null
+for _ in {1..100}; do [ -s "$work/found" ] || sleep 0.05; done
+check "the emulator gets the environment as it is" cmp "$work/found" \
+  <(printf '%s\0' "HOME=$HOME" 'B=two words' $'A=new\nline' LANG=xx)
+
+# Each image writes all lists as they are by then, which is more than a disk holds: the lines end
+# where there are too many of them.
+seq -f 'disk /home/me/disk image %.0f.dsk' 200000 >"$HOME/.quillon_prefs"
+check "200,000 images" bash -c "timeout 60 '$program' --start >/dev/null"
+check "all of them are still there" [ "$(grep -c '^disk ' "$HOME/.quillon_prefs")" -eq 200000 ]
+check "200,000 images, the lines going to a file" bash -c "
+  timeout 120 '$program' --start >'$work/lines' &&
+  [ \$(stat -c %s '$work/lines') -le $((1 << 30)) ]"
+exit $failed
