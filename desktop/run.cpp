@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QPalette>
 #include <QTranslator>
 
 #include "desktop/application.h"
@@ -26,6 +27,19 @@ void translate(QTranslator& translator, const char* name, const QString& folder)
   }
 }
 
+// Some dark themes do not say how hints in empty fields look, and leave them dark.
+void makeHintsReadable() {
+  QPalette palette = QApplication::palette();
+  const int background = palette.color(QPalette::Base).lightness();
+  const int hint = palette.color(QPalette::PlaceholderText).lightness();
+  if ((background < 128) == (hint < 128)) {
+    QColor color = palette.color(QPalette::Text);
+    color.setAlpha(170);
+    palette.setColor(QPalette::PlaceholderText, color);
+    QApplication::setPalette(palette);
+  }
+}
+
 }  // namespace
 
 int run(int& argc, char** argv, const Surroundings& surroundings) {
@@ -34,6 +48,7 @@ int run(int& argc, char** argv, const Surroundings& surroundings) {
   QApplication::setApplicationName(QLatin1String("quillon-settings"));
   QApplication::setApplicationVersion(QLatin1String(surroundings.version));
 
+  makeHintsReadable();
   QTranslator ours;
   QTranslator qts;
   translate(ours, "quillon-settings", shown(surroundings.bundle.path() + "/Contents/Resources"));
