@@ -8,6 +8,7 @@
 #include "editor/view_controller.h"
 #include "fuzz/model.h"
 #include "tests/support/fake_host.h"
+#include "volumes/create_view_controller.h"
 
 namespace fuzz {
 
@@ -76,14 +77,8 @@ class Use {
       model_[key] = document::rowOf(key).defaultValue;
       model_[Key::cpu] = key == Key::fpu ? "3" : model_[Key::cpu];
     });
-    actions_.push_back([this] {
-      app::prefsViewController preferences(host_.host());
-      preferences.viewWillAppear();
-      const bool shown = any_(2) == 1;
-      preferences.SCSItab.edit([&] { preferences.SCSItab.setOn(shown); });
-      preferences.Done.sendAction();
-      promise(window_.tabs.tabViewC.numberOfTabViewItems() == (shown ? 7U : 6U), "a SCSI tab");
-    });
+    addChoosers();
+    addOthers();
   }
 
   /// Does one thing; returns whether all promises have been kept so far.
@@ -95,10 +90,7 @@ class Use {
 
   void save() {
     hand_.click(window_.savePrefs);
-    const std::string file = host_.home.read(tests::FakeHost::prefs);
-    promise(file == model_.text(), file + "=== is not ===\n" + model_.text());
-    promise(window_.changedKeys().empty() && !window_.volumesChanged(), "all is saved");
-    ++saves_;
+    checkSaved();
   }
 
   [[nodiscard]] int saves() const { return saves_; }
@@ -111,6 +103,13 @@ class Use {
     if (!kept && broken_.empty()) {
       broken_ = text;
     }
+  }
+
+  void checkSaved() {
+    const std::string file = host_.home.read(tests::FakeHost::prefs);
+    promise(file == model_.text(), file + "=== is not ===\n" + model_.text());
+    promise(window_.changedKeys().empty() && !window_.volumesChanged(), "all is saved");
+    ++saves_;
   }
 
   std::string anyText() {
@@ -275,6 +274,67 @@ class Use {
       }
     });
     actions_.push_back([this] { hand_.click(window_.volumes.ronMode); });
+  }
+
+  // A panel answers with a path, or is cancelled.
+  void addChoosers() {
+    const auto add = [this](platform::Button& button, Key key) {
+      actions_.push_back([this, &button, key] {
+        const std::string path = host_.home.path("a b%" + std::to_string(any_(3)));
+        if (any_(3) > 0) {
+          host_.panels.answers.push_back({platform::Location::fromPath(path)});
+          model_[key] = path;
+        }
+        hand_.click(button);
+      });
+    };
+    add(window_.sharedFolder.unixRoot, Key::extfs);
+    add(window_.machine.browseROM.button, Key::rom);
+    add(window_.input.rawKeyFileSelect.button, Key::keycodefile);
+  }
+
+  // What leaves the settings as they are.
+  void addOthers() {
+    actions_.push_back([this] { hand_.click(window_.copyPrefs); });
+    actions_.push_back([this] {
+      if (window_.startQuil.isEnabled()) {
+        hand_.click(window_.startQuil);
+        checkSaved();
+      }
+    });
+    actions_.push_back([this] { usePreferences(); });
+    actions_.push_back([this] {
+      volumes::createViewController sheet(host_.output);
+      app::sharedVar::pathToQuilRoot = host_.home.path() + "/";
+      sheet.viewWillAppear();
+      for (int turn = 0; turn < 2; ++turn) {
+        sheet.createName.edit(
+            [&] { sheet.createName.setStringValue(turn == 0 ? anyText() : "x"); });
+        sheet.createSize.edit([&] { sheet.createSize.setStringValue(std::to_string(any_(2))); });
+        sheet.createImage.sendAction();
+      }
+      promise(sheet.createStatus.stringValue().find("Status: ") == 0, "a status");
+    });
+  }
+
+  void usePreferences() {
+    app::prefsViewController preferences(host_.host());
+    preferences.viewWillAppear();
+    platform::Button* const modes[] = {&preferences.quilOff, &preferences.quilLocal,
+                                       &preferences.quilCustom};
+    platform::Button& mode = *modes[any_(3)];
+    mode.edit([&] { mode.setOn(true); });
+    if (preferences.Quillon.isEnabled()) {
+      const std::string text = any_(2) == 0 ? anyText() : "/my/Quillon.app";
+      preferences.Quillon.edit([&] { preferences.Quillon.setStringValue(text); });
+    }
+    preferences.testLaunch.sendAction();
+    const bool shown = any_(2) == 1;
+    preferences.SCSItab.edit([&] { preferences.SCSItab.setOn(shown); });
+    preferences.quitOnStart.edit([&] { preferences.quitOnStart.setOn(any_(2) == 1); });
+    preferences.Done.sendAction();
+    promise(window_.tabs.tabViewC.numberOfTabViewItems() == (shown ? 7U : 6U), "a SCSI tab");
+    promise(window_.startQuil.isEnabled() == app::sharedVar::startState, "a button to start");
   }
 
   std::function<std::size_t(std::size_t)> any_;

@@ -34,6 +34,7 @@ Descriptor Descriptor::openRegular(const std::string& path, int flags, std::erro
                                                          : std::errc::operation_not_supported);
     return Descriptor();
   }
+  opened.openedSize_ = static_cast<std::size_t>(status.st_size);
   return opened;
 }
 

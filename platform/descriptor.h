@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -10,9 +11,11 @@ namespace platform {
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor(Descriptor&& other) noexcept
+      : number_(std::exchange(other.number_, -1)), openedSize_(other.openedSize_) {}
   Descriptor& operator=(Descriptor&& other) noexcept {
     std::swap(number_, other.number_);
+    openedSize_ = other.openedSize_;
     return *this;
   }
   ~Descriptor() { close(); }
@@ -23,12 +26,15 @@ class Descriptor {
 
   [[nodiscard]] int get() const { return number_; }
   [[nodiscard]] bool isOpen() const { return number_ >= 0; }
+  /// Bytes in the regular file when it was opened.
+  [[nodiscard]] std::size_t openedSize() const { return openedSize_; }
 
   /// Closes at once; the only way to learn of an error that shows no earlier.
   std::error_code close();
 
  private:
   int number_;
+  std::size_t openedSize_ = 0;
 };
 
 /// The error that the last system call left behind.

@@ -16,47 +16,37 @@
 namespace platform {
 namespace {
 
-std::size_t sizeOf(int descriptor) {
-  struct stat status {};
-  return ::fstat(descriptor, &status) == 0 ? static_cast<std::size_t>(status.st_size) : 0;
-}
-
-std::optional<std::string> readUpTo(int descriptor, std::size_t limit, std::error_code& error) {
+std::optional<std::string> readUpTo(const Descriptor& file, std::size_t limit,
+                                    std::error_code& error) {
   std::string content;
-  // One byte more than expected, so that the end is seen without another round of growing.
-  std::size_t room = sizeOf(descriptor) + 1;
-  if (room - 1 > limit) {
-    error = std::make_error_code(std::errc::file_too_large);
-    return std::nullopt;
-  }
-  for (std::size_t filled = 0;;) {
-    if (filled > limit) {
-      error = std::make_error_code(std::errc::file_too_large);
-      return std::nullopt;
-    }
-    content.resize(std::max(room, filled + 1));
+  // One byte more than expected: a read that leaves it free has seen the end.
+  std::size_t room = file.openedSize() + 1;
+  for (std::size_t filled = 0; filled <= limit && room - 1 <= limit;) {
+    content.resize(room);
     const ssize_t count = retried([&] {
-      return ::pread(descriptor, &content[filled], content.size() - filled,
-                     static_cast<off_t>(filled));
+      return ::pread(file.get(), &content[filled], room - filled, static_cast<off_t>(filled));
     });
     if (count < 0) {
       error = lastError();
       return std::nullopt;
     }
     filled += static_cast<std::size_t>(count);
-    if (count == 0) {
+    if (count == 0 || filled == file.openedSize()) {
       content.resize(filled);
       return content;
     }
-    if (filled == content.size()) {
-      room = 2 * filled;
+    if (filled == room) {
+      room = std::min(2 * filled, limit) + 1;
     }
   }
+  error = std::make_error_code(std::errc::file_too_large);
+  return std::nullopt;
 }
 
-std::optional<std::string> readAll(int descriptor, std::size_t limit, std::error_code& error) {
+std::optional<std::string> readAll(const Descriptor& file, std::size_t limit,
+                                   std::error_code& error) {
   try {
-    return readUpTo(descriptor, limit, error);
+    return readUpTo(file, limit, error);
   } catch (const std::bad_alloc&) {
     error = std::make_error_code(std::errc::not_enough_memory);
     return std::nullopt;
@@ -155,7 +145,7 @@ bool fileExists(const std::string& path) {
 std::optional<std::string> readFile(const std::string& path, std::error_code& error,
                                     std::size_t limit) {
   const Descriptor file = Descriptor::openRegular(path, O_RDONLY, error);
-  return file.isOpen() ? readAll(file.get(), limit, error) : std::nullopt;
+  return file.isOpen() ? readAll(file, limit, error) : std::nullopt;
 }
 
 std::optional<std::string> readTextFile(const std::string& path, std::error_code& error) {
@@ -179,12 +169,12 @@ std::error_code writeFile(const std::string& path, std::string_view content) {
   }
   std::optional<std::string> old;
   if (readable) {
-    old = readAll(file.get(), std::numeric_limits<std::size_t>::max(), error);
+    old = readAll(file, std::numeric_limits<std::size_t>::max(), error);
     if (!old) {
       return error;
     }
   }
-  const std::size_t oldSize = sizeOf(file.get());
+  const std::size_t oldSize = old ? old->size() : file.openedSize();
   error = reserve(file.get(), content.size());
   if (!error) {
     error = replaceContent(file.get(), content, oldSize);

@@ -9,8 +9,8 @@ namespace {
 constexpr std::string_view fileScheme = "file:";
 constexpr std::string_view filePrefix = "file://";
 
-bool isAlphabetic(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool isAlphabetic(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 int hexValue(char c) {
   constexpr std::string_view digits = "0123456789abcdef";
@@ -18,12 +18,19 @@ int hexValue(char c) {
   return at == digits.npos ? -1 : static_cast<int>(at);
 }
 
-bool isIn(char c, std::string_view set) { return set.find(c) != set.npos; }
+constexpr bool isIn(char c, std::string_view set) { return set.find(c) != set.npos; }
 
 // RFC 3986, section 3.3: pchar without percent escapes, and the separator.
-bool isPathCharacter(char c) {
-  return isAlphabetic(c) || isDigit(c) || isIn(c, "-._~!$&'()*+,;=:@/");
-}
+constexpr auto pathCharacters = [] {
+  std::array<bool, 256> found{};
+  for (std::size_t byte = 0; byte < 128; ++byte) {
+    const char c = static_cast<char>(byte);
+    found[byte] = isAlphabetic(c) || isDigit(c) || isIn(c, "-._~!$&'()*+,;=:@/");
+  }
+  return found;
+}();
+
+bool isPathCharacter(char c) { return pathCharacters[static_cast<unsigned char>(c)]; }
 
 // The byte of the escape at `at`; -1 where there is none.
 int escapeAt(std::string_view text, std::size_t at) {

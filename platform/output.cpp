@@ -16,6 +16,7 @@ namespace {
 
 constexpr int patienceMilliseconds = 2000;
 constexpr int pauseMilliseconds = 10;
+constexpr std::size_t gatheredSize = std::size_t{64} << 10U;  // bytes
 
 // A terminal may poll writable and still make a writer wait. Opened once more it can be written to
 // without waiting, which leaves it as it is for the programs that share it.
@@ -48,28 +49,46 @@ void DescriptorOutput::write(std::initializer_list<std::string_view> parts) {
   for (const std::string_view part : parts) {
     size += part.size();
   }
-  broken_ = broken_ || size > room_;
-  room_ -= std::min(size, room_);
-  // One line is best written in one piece: other processes may write to the same stream.
-  std::string line;
-  for (const std::string_view part : parts) {
-    if (line.size() + part.size() <= PIPE_BUF) {
-      line += part;
-      continue;
-    }
-    if (broken_ || !send(line) || !send(part)) {
-      return;
-    }
-    line.clear();
+  if (size > room_) {
+    sendWaiting();
+    broken_ = true;
   }
-  if (!broken_) {
-    send(line);
+  if (broken_) {
+    return;
+  }
+  room_ -= size;
+  // One line is best sent in one piece: other processes may write to the same stream.
+  for (const std::string_view part : parts) {
+    const bool isLong = part.size() > PIPE_BUF;
+    if (isLong || waiting_.size() + part.size() > (gathering_ ? gatheredSize : PIPE_BUF)) {
+      sendWaiting();
+    }
+    if (isLong) {
+      send(part);
+    } else {
+      waiting_ += part;
+    }
+  }
+  if (!gathering_) {
+    sendWaiting();
   }
 }
 
-bool DescriptorOutput::send(std::string_view part) {
+void DescriptorOutput::gather(bool begins) {
+  gathering_ = begins;
+  if (!gathering_) {
+    sendWaiting();
+  }
+}
+
+void DescriptorOutput::sendWaiting() {
+  send(waiting_);
+  waiting_.clear();
+}
+
+void DescriptorOutput::send(std::string_view part) {
   const int target = terminal_.isOpen() ? terminal_.get() : descriptor_;
-  for (int pauses = patienceMilliseconds / pauseMilliseconds; !part.empty();) {
+  for (int pauses = patienceMilliseconds / pauseMilliseconds; !broken_ && !part.empty();) {
     std::size_t length = part.size();
     if (mayBlock_) {
       // A pipe that polls writable takes this many bytes without waiting.
@@ -77,7 +96,7 @@ bool DescriptorOutput::send(std::string_view part) {
       pollfd waiting{target, POLLOUT, 0};
       if (retried([&] { return ::poll(&waiting, 1, patienceMilliseconds); }) <= 0) {
         broken_ = true;
-        return false;
+        return;
       }
     }
     const ssize_t written = retried([&] { return ::write(target, part.data(), length); });
@@ -88,11 +107,10 @@ bool DescriptorOutput::send(std::string_view part) {
     }
     if (written <= 0) {
       broken_ = true;
-      return false;
+      return;
     }
     part.remove_prefix(static_cast<std::size_t>(written));
   }
-  return true;
 }
 
 std::string optionalText(std::string_view text) {

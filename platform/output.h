@@ -16,6 +16,19 @@ class Output {
   Output& operator=(const Output&) = delete;
   virtual ~Output() = default;
 
+  /// While it lives, lines may go out together: for thousands of them, of which each by itself
+  /// would cost more than its text.
+  class Gathering {
+   public:
+    explicit Gathering(Output& output) : output_(output) { output_.gather(true); }
+    Gathering(const Gathering&) = delete;
+    Gathering& operator=(const Gathering&) = delete;
+    ~Gathering() { output_.gather(false); }
+
+   private:
+    Output& output_;
+  };
+
   /// Writes the parts and a line feed as one line, at once, so that a reader sees it live.
   template <typename... Parts>
   void print(const Parts&... parts) {
@@ -24,6 +37,7 @@ class Output {
 
  private:
   virtual void write(std::initializer_list<std::string_view> parts) = 0;
+  virtual void gather(bool /*begins*/) {}
 };
 
 /// Keeps the lines in memory.
@@ -44,8 +58,12 @@ class DescriptorOutput : public Output {
 
  private:
   void write(std::initializer_list<std::string_view> parts) override;
-  bool send(std::string_view part);
+  void gather(bool begins) override;
+  void sendWaiting();
+  void send(std::string_view part);
 
+  std::string waiting_;  // what has been written and not sent
+  bool gathering_ = false;
   int descriptor_;
   Descriptor terminal_;  // the same, opened not to wait, where it is a terminal
   std::size_t room_ = std::size_t{1} << 30U;  // bytes still to be taken

@@ -47,6 +47,7 @@ struct VolumeList::Shown {
 };
 
 void VolumeList::load(const std::vector<std::string_view>& lines) {
+  const platform::Output::Gathering gathering(output_);
   output_.print("resultsDisk: ", platform::listText(lines));
   Shown shown;
   for (const std::string_view line : lines) {
