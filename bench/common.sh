@@ -15,6 +15,21 @@ buildTargets() {
   program=$root/build/bench/QuillonSettings.app/Contents/MacOS/quillon-settings
 }
 
+# Opens a virtual display and sets `folder`, which goes with it at the end.
+openDisplay() {
+  installMissing xvfb
+  folder=$(mktemp -d "${TMPDIR:-/tmp}/display-XXXXXX")
+  Xvfb -displayfd 3 -screen 0 1280x1024x24 -noreset -nolisten tcp 3>"$folder/display" 2>/dev/null &
+  # shellcheck disable=SC2064  # the process and the folder of now
+  trap "kill $!; rm -rf '$folder'" EXIT
+  for _ in $(seq 100); do
+    [ ! -s "$folder/display" ] || break
+    sleep 0.1
+  done
+  DISPLAY=:$(<"$folder/display")
+  export DISPLAY LANG=C.UTF-8 XDG_RUNTIME_DIR=$folder DBUS_SESSION_BUS_ADDRESS=disabled:
+}
+
 # The median of the numbers on standard input, one a line.
 median() {
   sort -g | awk '{ n[NR] = $1 }

@@ -20,7 +20,7 @@ rewrite() { "$binaries/plain_rewrite" "$folder/lines" "$folder/copy"; }
 
 mkdir "$folder/home"
 echo "kind       lines    own s    plain s  ratio  (medians)"
-for kind in keyword rom ramsize "a b c"; do
+for kind in keyword rom ramsize "a b c" disk; do
   for count in "$lines" $((2 * lines)); do
     samplePreferences 0 "$count" "$kind" >"$folder/lines"
     rm -f "$folder"/{own,plain,ratios}

@@ -9,18 +9,8 @@ set -euo pipefail
 # shellcheck source=bench/common.sh
 . "$(dirname "$(readlink -f "$0")")/common.sh"
 buildTargets quillon-settings floor first_paint
-installMissing xvfb
 rounds=${1:-15}
-folder=$(mktemp -d "${TMPDIR:-/tmp}/startup-XXXXXX")
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -noreset -nolisten tcp 3>"$folder/display" 2>/dev/null &
-server=$!
-trap 'kill "$server"; rm -rf "$folder"' EXIT
-for _ in $(seq 100); do
-  [ ! -s "$folder/display" ] || break
-  sleep 0.1
-done
-DISPLAY=:$(<"$folder/display")
-export DISPLAY LANG=C.UTF-8 XDG_RUNTIME_DIR=$folder DBUS_SESSION_BUS_ADDRESS=disabled:
+openDisplay
 
 declare -A disks=([floor]=6 [lines40]=6 [disks1]=1 [disks1000]=1000)
 names=(floor lines40 disks1 disks1000)

@@ -3,9 +3,11 @@
 
 buildPackages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-tools-dev qt6-l10n-tools
   qt6-wayland qt6-translations-l10n libplist-dev libutf8proc-dev)
-testPackages=("${buildPackages[@]}" libgtest-dev)
+testPackages=("${buildPackages[@]}" libgtest-dev xvfb dbus-daemon at-spi2-core python3-gi
+  gir1.2-atspi-2.0)
 displayPackages=(xvfb xdotool imagemagick)
 checkPackages=(clang-format clang-tidy shellcheck)
+fuzzPackages=(clang libclang-rt-14-dev cmake ninja-build pkg-config libplist-dev libutf8proc-dev)
 
 # Runs a command and shows what it wrote only when it failed.
 quietly() {
