@@ -25,14 +25,18 @@ prefsViewController::prefsViewController(const platform::Host& host) : host_(hos
       radioButtonChanged();
     };
   }
-  SCSItab.action = [this] { takeState(SCSItab, sharedVar::scsiTabState); };
-  quitOnStart.action = [this] { takeState(quitOnStart, sharedVar::quitGUI); };
+  SCSItab.action = [this] { scsiState(); };
+  quitOnStart.action = [this] { GUIstate(); };
   Quillon.action = [this] { QuilApp(); };
   chooseQuillon.action = [this] { chooseApplication(); };
   testLaunch.action = [this] { launchTest(); };
   Done.action = [this] { finish(); };
   chooseQuillon.setEnabled(false);
 }
+
+void prefsViewController::scsiState() { takeState(SCSItab, sharedVar::scsiTabState); }
+
+void prefsViewController::GUIstate() { takeState(quitOnStart, sharedVar::quitGUI); }
 
 // The three modes exclude each other.
 void prefsViewController::turnOn(platform::Button& radioButton) {
@@ -121,12 +125,13 @@ void prefsViewController::chooseApplication() {
   panel.title = "Choose Quillon";
   panel.canChooseDirectories = true;  // a bundle is a folder
   panel.directory = std::filesystem::path(sharedVar::pathToQuil).parent_path().string();
-  host_.panels.beginSheet(panel, [this](const std::vector<platform::Location>& chosen) {
-    if (!chosen.empty()) {
+  const auto answer = [this, alive = std::weak_ptr(alive_)](const auto& chosen) {
+    if (!alive.expired() && !chosen.empty()) {
       Quillon.setStringValue(chosen.front().path());
       QuilApp();
     }
-  });
+  };
+  host_.panels.beginSheet(panel, answer);
 }
 
 // Launches whatever stands in the field, unchecked.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
 #include "platform/control.h"
 #include "platform/host.h"
@@ -32,6 +33,8 @@ class prefsViewController {  // NOLINT(readability-identifier-naming)
   platform::Button Done{"Done"};
 
  private:
+  void scsiState();
+  void GUIstate();
   void turnOn(platform::Button& radioButton);
   void chooseMode();
   void radioButtonChanged();
@@ -41,6 +44,7 @@ class prefsViewController {  // NOLINT(readability-identifier-naming)
   void finish();
 
   platform::Host host_;
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // known to panels that stay open
 };
 
 }  // namespace app

@@ -67,7 +67,7 @@ void SettingsStore::writeBack() {
 void SettingsStore::writePlist() {
   const auto data = dict_.xml();
   if (!data) {
-    output_.print("Prefs.plist cannot be expressed as XML");
+    output_.print("Prefs.plist cannot be expressed as XML of at most 64 KiB");
     return;
   }
   output_.print(std::to_string(data->size()), " bytes");

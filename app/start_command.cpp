@@ -47,6 +47,12 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
   if (!controller.startQuil.isEnabled()) {
     return fail("Start is disabled; choose where Quillon is in the preferences");
   }
+  if (!controller.preferences.readError().empty()) {
+    // Nobody has seen that saving would put defaults in the place of what they had.
+    workspace.launchApplication(sharedVar::pathToQuil);
+    return fail("could not read the preferences file, which is left as it is: " +
+                controller.preferences.readError());
+  }
   const editor::StartResult result = controller.saveAndLaunch();
   if (result.saved && result.launched) {
     return 0;

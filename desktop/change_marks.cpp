@@ -23,7 +23,8 @@ ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Setting
       controller_(controller),
       places_(places),
       window_(window),
-      volumesLabel_(window.findChild<QWidget*>(QLatin1String("volumesLabel"))) {
+      volumesLabel_(window.findChild<QWidget*>(QLatin1String("volumesLabel"))),
+      readError_(window.findChild<QWidget*>(QLatin1String("readError"))) {
   const auto* const dispatcher = QAbstractEventDispatcher::instance();
   for (const auto signal :
        {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
@@ -42,6 +43,9 @@ void ChangeMarks::update() {
   }
   const bool volumesChanged = controller_.volumesChanged();
   mark(volumesLabel_, volumesChanged);
+  if (readError_ != nullptr && controller_.preferences.readError().empty()) {
+    readError_->hide();
+  }
   // Not without need: the window system answers each new title, which would bring us here again.
   const bool modified = !changed.empty() || volumesChanged;
   if (window_.isWindowModified() != modified) {

@@ -26,6 +26,7 @@ class ChangeMarks : public QObject {
   const SettingWidgets& places_;
   QWidget& window_;
   QWidget* volumesLabel_;
+  QWidget* readError_;  // there only when the file could not be read
 };
 
 }  // namespace desktop

@@ -6,6 +6,18 @@
 #include <utility>
 
 namespace desktop {
+namespace {
+
+// A setting is one line of the file: a second one that came with a paste would be another setting.
+QString oneLine(QString text) {
+  while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) {
+    text.chop(1);
+  }
+  return text.replace(QLatin1Char('\n'), QLatin1Char(' '))
+      .replace(QLatin1Char('\r'), QLatin1Char(' '));
+}
+
+}  // namespace
 
 void Edits::endEditing() {
   std::erase_if(edits_, [](const QPointer<PendingEdit>& edit) { return edit.isNull(); });
@@ -24,9 +36,12 @@ PendingEdit::PendingEdit(QLineEdit* field, Edits& edits, Taker note, Taker commi
   QWidget* const focused = field->focusProxy() != nullptr ? field->focusProxy() : field;
   focused->installEventFilter(this);
   connect(field, &QLineEdit::textEdited, this, [this, note = std::move(note)](const QString& text) {
-    text_ = text;
+    text_ = oneLine(text);
     typed_ = true;
-    note(text);
+    if (text_ != text) {
+      field_->setText(text_);
+    }
+    note(text_);
   });
   connect(field, &QLineEdit::returnPressed, this, &PendingEdit::returnPressed);
 }
@@ -38,7 +53,7 @@ void PendingEdit::settle() {
 
 void PendingEdit::endEditing() {
   if (isPending()) {
-    const QString text = typed_ ? text_ : field_->text();
+    const QString text = typed_ ? text_ : oneLine(field_->text());
     settle();
     commit_(text);
   }

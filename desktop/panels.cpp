@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLayout>
+#include <QMessageBox>
 #include <memory>
 #include <utility>
 
@@ -17,10 +18,27 @@ namespace {
 
 using platform::Location;
 
+// The preferences file has a line for each path: one with a line break would be read as two.
+void tellLineBreak(const QFileDialog& dialog, const QString& file) {
+  auto* const box = new QMessageBox(
+      QMessageBox::Warning, dialog.windowTitle(),
+      tr("\"%1\" has a line break in its name or in that of a folder, which the preferences file "
+         "cannot hold. Please rename it first.")
+          .arg(file),
+      QMessageBox::Ok, dialog.parentWidget());
+  box->setTextFormat(Qt::PlainText);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->open();
+}
+
 std::vector<Location> locationsOf(const QFileDialog& dialog) {
   std::vector<Location> locations;
   for (const QString& file : dialog.selectedFiles()) {
-    locations.push_back(Location::fromPath(stored(file)));
+    if (file.contains(QLatin1Char('\n'))) {
+      tellLineBreak(dialog, file);
+    } else {
+      locations.push_back(Location::fromPath(stored(file)));
+    }
   }
   return locations;
 }
@@ -112,10 +130,18 @@ void begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
 
 }  // namespace
 
-// The window in which a person asked for the panel.
+// The window in which a person asked for the panel. Where none is active, as on a display without a
+// window manager, it is one that lies on the settings window, if there is any.
 QWidget* Panels::front() const {
-  QWidget* const active = QApplication::activeWindow();
-  return active != nullptr ? active : window_;
+  if (QWidget* const active = QApplication::activeWindow()) {
+    return active;
+  }
+  for (QWidget* const child : window_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if (child->isWindow() && child->isVisible()) {
+      return child;
+    }
+  }
+  return window_;
 }
 
 std::vector<Location> Panels::runModal(const platform::OpenPanel& panel) {

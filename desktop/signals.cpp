@@ -26,7 +26,11 @@ void handle(void (*handler)(int)) {
   action.sa_handler = handler;
   action.sa_flags = SA_RESTART;
   for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
-    ::sigaction(number, &action, nullptr);
+    struct sigaction former {};
+    // Whoever starts a program with a signal ignored, as nohup does, wants it to stay so.
+    if (::sigaction(number, nullptr, &former) == 0 && former.sa_handler != SIG_IGN) {
+      ::sigaction(number, &action, nullptr);
+    }
   }
 }
 

@@ -61,13 +61,17 @@ QVariant VolumeModel::headerData(int section, Qt::Orientation orientation, int r
   if (role == Qt::DisplayRole && orientation == Qt::Horizontal) {
     return section == 0 ? tr("Disk image") : section == 1 ? tr("Size") : tr("Kind");
   }
+  if (role == Qt::TextAlignmentRole && section == 1) {
+    return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+  }
   return QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags VolumeModel::flags(const QModelIndex& index) const {
-  // Rows are no targets of a drop, only the gaps between them; those belong to the root.
+  // A row takes no drop either, but it is asked: one that could not be would have Qt take its
+  // middle for a gap.
   return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled |
-                               Qt::ItemNeverHasChildren
+                               Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren
                          : Qt::ItemIsDropEnabled;
 }
 

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <set>
 
@@ -13,10 +14,30 @@
 
 namespace desktop {
 
+namespace {
+
+// Paths and sizes are read from left to right in every language.
+class CellDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->direction == Qt::RightToLeft) {
+      constexpr QChar leftToRightMark(0x200e);
+      option->text = leftToRightMark + option->text + leftToRightMark;
+    }
+  }
+};
+
+}  // namespace
+
 VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images)
     : volumes_(volumes), model_(volumes.tableView, images, this) {
   setObjectName(shown(volumes.tableView.name()));
   setModel(&model_);
+  setItemDelegate(new CellDelegate(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setDragDropMode(DragDrop);
@@ -99,11 +120,29 @@ void VolumeView::keyPressEvent(QKeyEvent* event) {
   } else if (alt && event->key() == Qt::Key_Down) {
     volumes_.moveSelectionDown();
   } else if (plain && event->key() == Qt::Key_Delete) {
-    volumes_.removeVol.sendAction();
+    removeRow();
   } else if (plain && event->key() == Qt::Key_Insert) {
     volumes_.browseFile.sendAction();
   } else {
     QTableView::keyPressEvent(event);
+  }
+}
+
+// The row that takes the place of the last one selected is the next to be selected, so that the key
+// can be pressed again.
+void VolumeView::removeRow() {
+  const auto row = volumes_.tableView.selectedRow();
+  const int rows = model_.rowCount();
+  volumes_.removeVol.sendAction();
+  if (row && model_.rowCount() < rows && !selectionModel()->hasSelection()) {
+    selectRow(std::min(static_cast<int>(*row), model_.rowCount() - 1));
+  }
+}
+
+// Row numbers of another window's table mean nothing here.
+void VolumeView::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->source() == this) {
+    QTableView::dragEnterEvent(event);
   }
 }
 
@@ -136,11 +175,12 @@ void VolumeView::paintHint() {
 
 // Across the whole width, since whole rows move.
 void VolumeView::paintDropLine() {
-  if (!hovered_.isValid() || dropIndicatorPosition() == OnViewport) {
+  const DropIndicatorPosition place = dropIndicatorPosition();
+  if (!hovered_.isValid() || place == OnViewport || place == OnItem) {
     return;
   }
   const QRect row = visualRect(hovered_);
-  const int y = dropIndicatorPosition() == BelowItem ? row.bottom() : row.top();
+  const int y = place == BelowItem ? row.bottom() : row.top();
   QPainter painter(viewport());
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawLine(0, y, viewport()->width(), y);

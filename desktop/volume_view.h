@@ -19,6 +19,7 @@ class VolumeView : public QTableView {
   VolumeView& operator=(const VolumeView&) = delete;
 
  protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -26,6 +27,7 @@ class VolumeView : public QTableView {
 
  private:
   void showState();
+  void removeRow();
   void rememberSelection(const QItemSelection& selected, const QItemSelection& deselected);
   void paintHint();
   void paintDropLine();

@@ -60,6 +60,7 @@ struct KeyRow {
   std::string_view action;        // what an edit of the control runs, for tools
   const char* help;               // what it does, for a person; null without a control
   const char* written;            // how it stands in the file, for a person; null: as it is shown
+  bool defaultAsks = false;       // the default asks for a value and is none to leave
 };
 
 using platform::translatable;
@@ -68,7 +69,7 @@ using platform::translatable;
 inline constexpr std::array<KeyRow, keyCount> keyTable = {{
     {Key::extfs, "extfs ", "Put an OS X path here to share it with Quillon", "unixRootPath", "unixRoot",
      translatable("Help", "A folder of this computer that appears as a disk inside the emulated Macintosh."),
-     translatable("Help", "as a path")},
+     translatable("Help", "as a path"), true},
     {Key::screen, "screen ", "win/1024/768", "screenType", "videoType",
      translatable("Help", "Whether the Macintosh screen is shown in a window or fills the screen, and "
           "how large it is. \"Maximum\" takes all the room there is."),
@@ -93,7 +94,7 @@ inline constexpr std::array<KeyRow, keyCount> keyTable = {{
      translatable("Help", "as a number from 1 to 65535")},
     {Key::rom, "rom ", "Put the path to your ROM file here", "romFile", "romFilePath",
      translatable("Help", "The file with the ROM of a Macintosh. The emulator cannot start without it."),
-     translatable("Help", "as a path")},
+     translatable("Help", "as a path"), true},
     {Key::bootdrive, "bootdrive ", "0", "stateStart", "startDevice",
      translatable("Help", "The drive that the Macintosh tries to start from."),
      translatable("Help", "as 0 for any drive, or 1")},

@@ -52,7 +52,8 @@ void Preferences::readFile() {
   if (auto text = platform::readTextFile(prefsPath, error)) {
     settings = Lines(*std::move(text));
   } else {
-    output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ", error.message());
+    readError_ = error.message();
+    output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ", readError_);
   }
 }
 
@@ -114,7 +115,9 @@ bool Preferences::save(const std::vector<std::string>& disks, std::string_view f
   const std::string text = joined(preferences);
   output_.print(text);
   const bool saved = prefsURL && prefsURL->isFile() && !platform::writeFile(prefsURL->path(), text);
-  if (!saved) {
+  if (saved) {
+    readError_.clear();
+  } else {
     output_.print("couldn't save prefs file");
   }
   output_.print(finalMessage);

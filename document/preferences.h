@@ -25,6 +25,10 @@ class Preferences {
   /// Reads the file in the home directory, or writes one with the defaults when there is none.
   void load();
 
+  /// Why the file that is there could not be read; empty when it was read or written. The next
+  /// save replaces it all the same.
+  [[nodiscard]] const std::string& readError() const { return readError_; }
+
   /// Finds the value of a key in the lines read, its default else, and makes it the current one.
   /// `foundLabel` begins the diagnostic line about a line that was found.
   void lookUp(Key key, std::string_view foundLabel = "results: ");
@@ -68,6 +72,7 @@ class Preferences {
   void compose(const std::vector<std::string>& disks);
 
   platform::Output& output_;
+  std::string readError_;
 };
 
 }  // namespace document

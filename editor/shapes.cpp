@@ -92,8 +92,7 @@ StepperSetting::StepperSetting(ControlGroup& group, Key key, std::string stepper
 
 void StepperSetting::fill() {
   field.setStringValue(value());
-  const auto number = platform::parseInt32(value());
-  if (number && *number >= stepper.range().minimum && *number <= stepper.range().maximum) {
+  if (const auto number = platform::parseInt32(value())) {
     stepper.setIntegerValue(*number);
   }
 }

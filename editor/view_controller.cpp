@@ -35,8 +35,8 @@ void ViewController::connectActions() {
 void ViewController::viewDidLoad() {
   volumes.wire();
   host_.notifications.addObserver("NotificationID", [this] { isStartEnabled(); });
-  loadFrontEndSettings();
-  host_.output.print("Prefs: ", sharedVar::pathToQuil);
+  const std::string storedLocation = loadFrontEndSettings();
+  host_.output.print("Prefs: ", storedLocation);
   host_.output.print("QuilLocal?: ", sharedVar::localPath->path());
   preferences.load();
   filename_field.setStringValue(preferences.prefsPath);
@@ -47,12 +47,14 @@ void ViewController::viewDidLoad() {
   rememberSaved();
 }
 
-void ViewController::loadFrontEndSettings() {
+std::string ViewController::loadFrontEndSettings() {
   store_.load();
+  std::string storedLocation = sharedVar::pathToQuil;
   app::findLocalPath(host_.bundle, host_.output);
   app::applyLocalRule(host_.output);
   startQuil.setEnabled(sharedVar::startState);
   tabs.prepareScsiTab();
+  return storedLocation;
 }
 
 std::array<Setting*, document::keyCount> ViewController::settingsInKeyOrder() const {

@@ -73,7 +73,8 @@ class ViewController {
 
  private:
   void connectActions();
-  void loadFrontEndSettings();
+  /// Returns the emulator's location as it stands in the front-end's settings.
+  std::string loadFrontEndSettings();
   void rememberSaved();
   bool save(std::string_view finalMessage);
   void startButton();

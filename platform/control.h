@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -177,7 +178,10 @@ class Stepper : public Control {
 
   [[nodiscard]] const Range& range() const { return range_; }
   [[nodiscard]] std::int32_t integerValue() const { return value_; }
-  void setIntegerValue(std::int32_t value) { set(value_, value); }
+  /// Takes the number, or the end of the range that is next to it.
+  void setIntegerValue(std::int32_t value) {
+    set(value_, std::clamp(value, range_.minimum, range_.maximum));
+  }
 
  private:
   Range range_;

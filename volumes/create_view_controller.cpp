@@ -37,8 +37,8 @@ std::optional<std::int64_t> megabytesOf(std::string_view text) {
 createViewController::createViewController(platform::Output& output) : output_(output) {
   createImage.action = [this] { createAction(); };
   createName.action = [this] { createNameAction(); };
-  startAnim.action = [this] { createProgressStatus.startAnimation(); };
-  stopAnim.action = [this] { createProgressStatus.stopAnimation(); };
+  startAnim.action = [this] { AnimOn(); };
+  stopAnim.action = [this] { AnimOff(); };
 }
 
 void createViewController::viewWillAppear() {

@@ -33,6 +33,8 @@ class createViewController {  // NOLINT(readability-identifier-naming)
  private:
   void createAction();
   void createNameAction();
+  void AnimOn() { createProgressStatus.startAnimation(); }
+  void AnimOff() { createProgressStatus.stopAnimation(); }
   void refuse(const std::string& reason);
   [[nodiscard]] std::optional<std::size_t> chosenLength();
 
