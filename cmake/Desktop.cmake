@@ -22,9 +22,7 @@ foreach(resource ${resources})
     DEPENDS resources/${resource})
   list(APPEND copies ${contents}/Resources/${resource})
 endforeach()
-# Texts in other languages. lupdate finds them in the core by the name of the marking function:
-#   lupdate -tr-function-alias QT_TRANSLATE_NOOP+=translatable -no-obsolete -locations none
-#           -I . desktop editor document -ts resources/translations/quillon-settings_de.ts
+# Texts in other languages: scripts/translate.sh brings them up to date with the code.
 set_source_files_properties(resources/translations/quillon-settings_de.ts
                             PROPERTIES OUTPUT_LOCATION ${contents}/Resources)
 qt_add_lrelease(quillon-settings TS_FILES resources/translations/quillon-settings_de.ts)

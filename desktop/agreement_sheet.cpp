@@ -15,7 +15,8 @@ AgreementSheet::AgreementSheet(const platform::Host& host, Edits& edits, QWidget
 
   auto* const text = new QLabel(
       tr("<p>This program is a beta version. It changes three things on this computer:</p>"
-         "<ul><li>Quillon's preferences file, when you press Save or Start;</li>"
+         "<ul><li>Quillon's preferences file, when you press Save, Start or Copy, and once when "
+         "there is none yet;</li>"
          "<li>its own settings, when you press Done in its preferences;</li>"
          "<li>the disk images that you ask it to make.</li></ul>"
          "<p>Keep a copy of what you cannot do without. Disagree ends the program at once, without "
@@ -38,7 +39,8 @@ AgreementSheet::AgreementSheet(const platform::Host& host, Edits& edits, QWidget
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(text);
   layout->addLayout(buttons);
-  setMinimumWidth(420);
+  agree->setFocus();  // the other button, which comes first, ends the program
+  setMinimumWidth(30 * fontMetrics().lineSpacing());
 
   controller_.dismiss = [this] { close(); };
   controller_.viewWillAppear();

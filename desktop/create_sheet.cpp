@@ -31,6 +31,7 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   auto* const place =
       new QLabel(shown(platform::withExistingFolder(app::sharedVar::pathToQuilRoot)));
   place->setWordWrap(true);
+  place->setAlignment(leadingSide() | Qt::AlignVCenter);
   form->addRow(tr("Folder:"), place);
 
   QPushButton* const create = controls_.pushButton(
@@ -50,7 +51,7 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   layout->addWidget(controls_.statusLine(controller_.createStatus));
   layout->addLayout(progressRow());
   layout->addLayout(buttons);
-  setMinimumWidth(460);
+  setMinimumWidth(33 * fontMetrics().lineSpacing());
 
   controller_.dismiss = [this] { close(); };
   controller_.viewWillAppear();

@@ -36,6 +36,7 @@ FindField::FindField(const SettingWidgets& places,
   setToolTip(tr("Type a word of a setting's name, its key or its help."));
   setWhatsThis(toolTip());
   setAccessibleDescription(toolTip());
+  setFixedWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
   connect(this, &QLineEdit::returnPressed, this, [this] {
     if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
       completer()->setCompletionPrefix(text());
@@ -43,14 +44,6 @@ FindField::FindField(const SettingWidgets& places,
     }
   });
 }
-
-// A menu bar gives a widget at its end the size that this asks for, and no other.
-QSize FindField::sizeHint() const {
-  const int width = fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height();
-  return {width, QLineEdit::sizeHint().height()};
-}
-
-QSize FindField::minimumSizeHint() const { return sizeHint(); }
 
 // Only who searches needs the list, and the button whose picture takes long to load.
 void FindField::focusInEvent(QFocusEvent* event) {
@@ -62,8 +55,27 @@ void FindField::focusInEvent(QFocusEvent* event) {
   selectAll();
 }
 
+bool FindField::event(QEvent* event) {
+  const bool known = QLineEdit::event(event);
+  // A shortcut that is none of the field's own leads away: the list would stay open in its way.
+  if (event->type() == QEvent::ShortcutOverride && !event->isAccepted() && hasOpenList()) {
+    const auto* const press = static_cast<QKeyEvent*>(event);
+    const bool onlyModifier = press->key() >= Qt::Key_Shift && press->key() <= Qt::Key_ScrollLock;
+    if (!onlyModifier && (press->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
+      completer()->popup()->hide();
+    }
+  }
+  return known;
+}
+
+bool FindField::hasOpenList() const {
+  return completer() != nullptr && completer()->popup()->isVisible();
+}
+
 void FindField::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) {
+  if (event->key() == Qt::Key_Escape && hasOpenList()) {
+    event->ignore();  // closes the list
+  } else if (event->key() == Qt::Key_Escape) {
     clear();
   } else {
     QLineEdit::keyPressEvent(event);

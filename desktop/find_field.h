@@ -19,14 +19,13 @@ class FindField : public QLineEdit {
   FindField(const SettingWidgets& places, std::function<QString(const SettingWidget&)> tabOf,
             std::function<void(const SettingWidget&)> go);
 
-  [[nodiscard]] QSize sizeHint() const override;
-  [[nodiscard]] QSize minimumSizeHint() const override;
-
  protected:
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  [[nodiscard]] bool hasOpenList() const;
   void buildList();
   void goTo(const QModelIndex& hit);
 

@@ -2,17 +2,23 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <algorithm>
+
+#include "desktop/texts.h"
 
 namespace desktop {
 namespace {
 
 constexpr int lines = 3;
+constexpr int mostLines = 5;
 
 QString helpAt(const QWidget* widget) {
   while (widget != nullptr && widget->whatsThis().isEmpty() && !widget->isWindow()) {
     widget = widget->parentWidget();
   }
-  return widget != nullptr ? widget->whatsThis() : QString();
+  return widget == nullptr || widget->whatsThis().isEmpty()
+             ? HelpLine::tr("Move to a setting to read here what it does.")
+             : widget->whatsThis();
 }
 
 }  // namespace
@@ -21,8 +27,13 @@ HelpLine::HelpLine() {
   setObjectName(QLatin1String("helpLine"));
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
-  setAlignment(Qt::AlignLeading | Qt::AlignTop);
-  setText(tr("Move to a setting to read here what it does."));
+  setAlignment(leadingSide() | Qt::AlignTop);
+  setText(helpAt(nullptr));
+  connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* now) {
+    if (now != nullptr && now->window() == window()) {
+      explain(now);
+    }
+  });
   // The same height always: nothing moves when the text changes.
   setFixedHeight(lines * fontMetrics().lineSpacing());
 }
@@ -35,11 +46,20 @@ void HelpLine::follow(QWidget* parent) {
   }
 }
 
+void HelpLine::explain(const QWidget* widget) {
+  setText(helpAt(widget));
+  // A narrow window with large letters gets more, and keeps it.
+  if (isVisible()) {
+    const int most = mostLines * fontMetrics().lineSpacing();
+    setFixedHeight(std::max(height(), std::min(heightForWidth(width()), most)));
+  }
+}
+
 bool HelpLine::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn) {
-    setText(helpAt(static_cast<QWidget*>(watched)));
+  if (event->type() == QEvent::Enter) {
+    explain(static_cast<QWidget*>(watched));
   } else if (event->type() == QEvent::Leave) {
-    setText(helpAt(QApplication::focusWidget()));
+    explain(QApplication::focusWidget());
   }
   return QLabel::eventFilter(watched, event);
 }

@@ -16,6 +16,9 @@ class HelpLine : public QLabel {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void explain(const QWidget* widget);
 };
 
 }  // namespace desktop

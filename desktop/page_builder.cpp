@@ -3,12 +3,16 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "desktop/texts.h"
+
 namespace desktop {
 
 void PageBuilder::note(editor::Setting& setting, const QString& label, QWidget* labelWidget,
                        QWidget* widget) {
   const std::string action(document::rowOf(setting.key()).action);
   widget->setProperty("action", QString::fromStdString(action));
+  labelWidget->setToolTip(widget->toolTip());
+  labelWidget->setWhatsThis(widget->whatsThis());
   places_.push_back({&setting, plainText(label), labelWidget, widget});
   offerReset(places_.back());
 }
@@ -18,13 +22,19 @@ void PageBuilder::heading(const QString& text) {
   QFont font = heading->font();
   font.setItalic(true);
   heading->setFont(font);
+  heading->setAlignment(leadingSide() | Qt::AlignVCenter);
   form_->addRow(heading);
 }
 
 void PageBuilder::row(editor::Setting& setting, const QString& label, QWidget* widget) {
   form_->addRow(label, widget);
-  // A buddy names most widgets for a screen reader, but not a combo box.
-  widget->setAccessibleName(plainText(label));
+  // A screen reader comes upon the field inside a box or an arrow pair as well.
+  for (QWidget* const named : {widget, static_cast<QWidget*>(widget->findChild<QLineEdit*>())}) {
+    if (named != nullptr) {
+      named->setAccessibleName(plainText(label));
+      named->setAccessibleDescription(widget->accessibleDescription());
+    }
+  }
   note(setting, label, form_->labelForField(widget), widget);
 }
 

@@ -37,10 +37,12 @@ QWidget* volumesPage(const PageContext& context) {
 
   auto* const table = new VolumeView(volumes, context.bundle);
   table->setAccessibleName(tr("Disk images"));
-  table->setAccessibleDescription(tr("The disk images of the Macintosh, in their order."));
+  table->setWhatsThis(tr("The disk images of the Macintosh, in their order."));
+  table->setAccessibleDescription(table->whatsThis());
   auto* const title = new QLabel(tr("Disk i&mages:"));
   title->setObjectName(QLatin1String("volumesLabel"));
   title->setBuddy(table);
+  title->setAlignment(leadingSide() | Qt::AlignVCenter);
 
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(

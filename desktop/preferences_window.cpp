@@ -43,13 +43,18 @@ PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, Q
       controller_.SCSItab, tr("Show the SCS&I tab"),
       tr("Whether the settings window has a tab for SCSI. It shows up with Done.")));
   layout->addWidget(controls_.checkBox(controller_.quitOnStart, tr("&Quit after Start"),
-                                       tr("Ends this program once Quillon has been started.")));
+                                       tr("Whether Start also ends this program.")));
   layout->addStretch();
   layout->addLayout(buttons);
 
   controller_.dismiss = [this] { close(); };
   controller_.viewWillAppear();
-  resize(sizeHint().expandedTo(QSize(480, 0)));
+  resize(sizeHint().expandedTo(QSize(34 * fontMetrics().lineSpacing(), 0)));
+  for (QRadioButton* const mode : where->findChildren<QRadioButton*>()) {
+    if (mode->isChecked()) {
+      mode->setFocus();
+    }
+  }
 }
 
 QLayout* PreferencesWindow::locationRow() {

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QPalette>
 #include <QTranslator>
 
+#include "desktop/appearance.h"
 #include "desktop/application.h"
 #include "desktop/panels.h"
 #include "desktop/settings_window.h"
@@ -18,25 +18,14 @@ namespace desktop {
 
 namespace {
 
-// English needs no file.
+// English needs no file. What counts is the first language that a person wants to read, which need
+// not be that of numbers and dates.
 void translate(QTranslator& translator, const char* name, const QString& folder) {
   const QLocale locale;
-  if (locale.language() != QLocale::English && locale.language() != QLocale::C &&
+  const auto first = QLocale(locale.uiLanguages().value(0)).language();
+  if (first != QLocale::English && first != QLocale::C &&
       translator.load(locale, QLatin1String(name), QLatin1String("_"), folder)) {
     QCoreApplication::installTranslator(&translator);
-  }
-}
-
-// Some dark themes do not say how hints in empty fields look, and leave them dark.
-void makeHintsReadable() {
-  QPalette palette = QApplication::palette();
-  const int background = palette.color(QPalette::Base).lightness();
-  const int hint = palette.color(QPalette::PlaceholderText).lightness();
-  if ((background < 128) == (hint < 128)) {
-    QColor color = palette.color(QPalette::Text);
-    color.setAlpha(170);
-    palette.setColor(QPalette::PlaceholderText, color);
-    QApplication::setPalette(palette);
   }
 }
 
@@ -48,7 +37,7 @@ int run(int& argc, char** argv, const Surroundings& surroundings) {
   QApplication::setApplicationName(QLatin1String("quillon-settings"));
   QApplication::setApplicationVersion(QLatin1String(surroundings.version));
 
-  makeHintsReadable();
+  makeReadable();
   QTranslator ours;
   QTranslator qts;
   translate(ours, "quillon-settings", shown(surroundings.bundle.path() + "/Contents/Resources"));

@@ -7,13 +7,26 @@
 #include <memory>
 
 #include "desktop/texts.h"
+#include "editor/display.h"
 
 namespace desktop {
 namespace {
 
 QString keyWord(const document::KeyRow& row) { return shown(std::string(row.text)).trimmed(); }
 
+// Of three parts, each shown by itself.
+QString shownScreen(const editor::ScreenSetting& screen) {
+  const QStringList parts = shown(screen.shownDefault()).split(QLatin1Char('/'));
+  const bool window = parts.value(0) == QLatin1String("win");
+  return tr("%1, %2 × %3")
+      .arg(translatedItem(screen.screenType.items().at(window ? 0 : 1)), parts.value(1),
+           parts.value(2));
+}
+
 QString shownDefault(const editor::Setting& setting) {
+  if (const auto* const screen = dynamic_cast<const editor::ScreenSetting*>(&setting)) {
+    return shownScreen(*screen);
+  }
   // Some defaults are words of ours, others are texts for the file.
   const std::string text = setting.shownDefault();
   const QString word = QCoreApplication::translate("Help", text.c_str());
@@ -46,8 +59,9 @@ QString helpOf(const editor::Setting& setting) {
   const QString word = keyWord(row);
   QString help = QCoreApplication::translate("Help", row.help);
   help += QLatin1Char(' ');
-  help += value.isEmpty() ? tr("If unsure, leave it empty.")
-                          : tr("If unsure, leave it at \"%1\".").arg(value);
+  help += value.isEmpty()   ? tr("If unsure, leave it empty.")
+          : row.defaultAsks ? tr("Until you choose one it says \"%1\".").arg(value)
+                            : tr("If unsure, leave it at \"%1\".").arg(value);
   help += QLatin1Char(' ');
   help +=
       row.written == nullptr
@@ -72,7 +86,16 @@ void offerReset(const SettingWidget& place) {
 }
 
 QString plainText(const QString& label) {
-  return QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':'));
+  constexpr QLatin1Char mark('&');
+  QString plain;
+  for (qsizetype at = 0; at < label.size(); ++at) {
+    // Behind the mark stands the letter that it marks, or another mark that is meant.
+    at += label[at] == mark ? 1 : 0;
+    if (at < label.size() && label[at] != QLatin1Char(':')) {
+      plain += label[at];
+    }
+  }
+  return plain;
 }
 
 }  // namespace desktop

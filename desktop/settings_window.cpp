@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPainter>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
@@ -21,9 +23,23 @@
 #include "desktop/help_line.h"
 #include "desktop/pages.h"
 #include "desktop/preferences_window.h"
+#include "desktop/status_line.h"
 #include "desktop/texts.h"
 
 namespace desktop {
+
+namespace {
+
+// Without the line at its foot, which would end where the search field begins.
+class MenuBar : public QMenuBar {
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QMenuBar::paintEvent(event);
+    QPainter(this).fillRect(0, height() - 2, width(), 2, palette().window());
+  }
+};
+
+}  // namespace
 
 SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
                                Edits& edits)
@@ -35,15 +51,19 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   setObjectName(QLatin1String("settingsWindow"));
   setWindowTitle(tr("Quillon Settings") + QLatin1String("[*]"));
   tabs_->setObjectName(shown(controller.tabs.tabViewC.name()));
+  tabs_->setAccessibleName(tr("Settings"));
   guardWheel(tabs_->tabBar());
 
+  setMenuWidget(topRow());  // first, because the focus goes in the order of making
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
+  if (!controller.preferences.readError().empty()) {
+    layout->addWidget(readErrorLine());
+  }
   layout->addWidget(tabs_, 1);
   setCentralWidget(content);
   layout->addWidget(help_);
   addPages();
-  buildMenus();
   buildShortcuts();
   layout->addLayout(fileRow());
   layout->addLayout(buttonRow());
@@ -52,9 +72,13 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   controller.bitCreate.action = [this] { openCreation(); };
   controller.tabs.tabViewC.attach([this] { showTabs(); });
   connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
-  resize(720, 560);
+  // A larger font gets a larger window, as far as the screen goes with some room for a title bar.
+  const int line = fontMetrics().lineSpacing();
+  const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
+  resize(QSize(52 * line, 40 * line).boundedTo(room));
   new ChangeMarks(controller, places_, *this);
   controller.viewWillAppear(delegate_);
+  tabs_->setFocus();
 }
 
 SettingsWindow::~SettingsWindow() { controller_.tabs.tabViewC.detach(); }
@@ -83,8 +107,8 @@ void SettingsWindow::addPages() {
 void SettingsWindow::fillPage(QScrollArea* area, PageMaker make) {
   QWidget* const page = make({controls_, places_, controller_, host_.bundle});
   area->setWidget(page);
-  // What is made later would come behind everything else.
-  QWidget* before = area;
+  // What is made later would come behind everything else. Only one page is shown at a time.
+  QWidget* before = tabs_->tabBar();
   for (QWidget* const widget :
        page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (widget->focusPolicy() != Qt::NoFocus) {
@@ -123,6 +147,16 @@ void SettingsWindow::showTabs() {
   }
   tabs_->setCurrentIndex(std::max(0, tabs_->indexOf(const_cast<QWidget*>(current))));
   tabs_->setUpdatesEnabled(true);
+}
+
+QWidget* SettingsWindow::readErrorLine() {
+  auto* const line = new StatusLine;
+  line->setObjectName(QLatin1String("readError"));
+  line->show(tr("The preferences file could not be read: %1. What you see are the defaults, and "
+                "saving puts them in the place of what is in the file.")
+                 .arg(shown(controller_.preferences.readError())),
+             platform::TextColor::red);
+  return line;
 }
 
 QLayout* SettingsWindow::fileRow() {
@@ -174,7 +208,27 @@ void SettingsWindow::showStart(QPushButton* button) {
   describe(button, controller_.startQuil, help);
 }
 
-void SettingsWindow::buildMenus() {
+// Beside the menus and not inside their bar, which goes away where the desktop shows the menus.
+QWidget* SettingsWindow::topRow() {
+  auto* const row = new QWidget;
+  auto* const layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 3, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(buildMenus(), 0, Qt::AlignVCenter);
+  layout->addStretch();
+  find_ = new FindField(
+      places_,
+      [this](const SettingWidget& place) { return plainText(tabs_->tabText(tabOf(place))); },
+      [this](const SettingWidget& place) { goTo(place); });
+  layout->addWidget(find_);
+  // Unlike a margin it is on the other side where people read from right to left.
+  layout->addSpacing(style()->pixelMetric(QStyle::PM_LayoutRightMargin));
+  help_->follow(row);
+  return row;
+}
+
+QMenuBar* SettingsWindow::buildMenus() {
+  auto* const bar = new MenuBar;
   const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto action) {
     auto* const entry = new QAction(text, menu);
     entry->setShortcut(keys);
@@ -191,7 +245,7 @@ void SettingsWindow::buildMenus() {
   };
   volumes::VolumeTable& volumes = controller_.volumes;
 
-  QMenu* const file = menuBar()->addMenu(tr("&File"));
+  QMenu* const file = bar->addMenu(tr("&File"));
   addButton(file, controller_.savePrefs, tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
   start_ =
       addButton(file, controller_.startQuil, tr("S&tart"), QKeySequence(Qt::CTRL | Qt::Key_Return));
@@ -202,31 +256,27 @@ void SettingsWindow::buildMenus() {
   file->addSeparator();
   addButton(file, controller_.isQuit, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
 
-  QMenu* const edit = menuBar()->addMenu(tr("&Edit"));
+  QMenu* const edit = bar->addMenu(tr("&Edit"));
   add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
       [this] { openPreferences(); });
 
-  QMenu* const presets = menuBar()->addMenu(tr("&Presets"));
+  QMenu* const presets = bar->addMenu(tr("&Presets"));
   presets->setObjectName(QLatin1String("presetsMenu"));
   for (platform::Button& item : controller_.presets.presetsMenu) {
     presets->addAction(controls_.menuEntry(item, shown(item.title()), presets));
   }
 
-  QMenu* const help = menuBar()->addMenu(tr("&Help"));
+  QMenu* const help = bar->addMenu(tr("&Help"));
   add(help, tr("&Beta Agreement…"), {}, [this] { openAgreement(); });
   add(help, tr("&About Quillon Settings"), {}, [this] { tellAbout(); });
+  return bar;
 }
 
 void SettingsWindow::buildShortcuts() {
-  auto* const find = new FindField(
-      places_,
-      [this](const SettingWidget& place) { return plainText(tabs_->tabText(tabOf(place))); },
-      [this](const SettingWidget& place) { goTo(place); });
-  menuBar()->setCornerWidget(find);
   const auto* const search = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
-  connect(search, &QShortcut::activated, find, [this, find] {
+  connect(search, &QShortcut::activated, find_, [this] {
     completePages();
-    find->setFocus(Qt::ShortcutFocusReason);
+    find_->setFocus(Qt::ShortcutFocusReason);
   });
   for (int number = 1; number <= static_cast<int>(pages_.size()); ++number) {
     auto* const shortcut = new QShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number), this);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "desktop/controls.h"
+#include "desktop/find_field.h"
 #include "desktop/help_line.h"
 #include "desktop/pages.h"
 #include "desktop/setting_widgets.h"
@@ -39,8 +41,10 @@ class SettingsWindow : public QMainWindow {
 
   void addPages();
   void fillPage(QScrollArea* area, PageMaker make);
-  void buildMenus();
+  [[nodiscard]] QWidget* topRow();
+  [[nodiscard]] QMenuBar* buildMenus();
   void buildShortcuts();
+  [[nodiscard]] QWidget* readErrorLine();
   [[nodiscard]] QLayout* fileRow();
   [[nodiscard]] QLayout* buttonRow();
   void showTabs();
@@ -58,6 +62,7 @@ class SettingsWindow : public QMainWindow {
   platform::Window delegate_;
   QTabWidget* tabs_;
   HelpLine* help_;
+  FindField* find_ = nullptr;
   std::vector<std::pair<QScrollArea*, PageMaker>> makers_;  // of the pages that are still to come
   QAction* start_ = nullptr;
   QPointer<QWidget> preferences_;

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 
+#include "desktop/texts.h"
+
 namespace desktop {
 
 using platform::TextColor;
@@ -24,6 +26,7 @@ QColor readableColor(TextColor color, const QColor& background, const QColor& st
 StatusLine::StatusLine() {
   setWordWrap(true);
   setTextFormat(Qt::PlainText);
+  setAlignment(leadingSide() | Qt::AlignVCenter);
   // Reachable by keyboard, so that a screen reader can go there and read it.
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setMinimumHeight(2 * fontMetrics().lineSpacing());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QString>
 #include <string>
 
@@ -19,6 +19,12 @@ inline QString tr(const char* text) { return QCoreApplication::translate("deskto
 /// An entry of a list of the core in the person's language.
 inline QString translatedItem(const std::string& text) {
   return QCoreApplication::translate("Items", text.c_str());
+}
+
+/// Where lines begin in the language of the window. Labels go by the language of their text, which
+/// is another where it has not been translated.
+inline Qt::Alignment leadingSide() {
+  return (QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
 }
 
 }  // namespace desktop

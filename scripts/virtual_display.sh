@@ -2,16 +2,24 @@
 # Runs the settings window on a virtual display with the keyboard only, as a person would: looks
 # at every tab, leaves a picture of each, and quits.
 #
-#   virtual_display.sh [--start MEGABYTES] PICTURES PROGRAM [ARGUMENT...]
+#   virtual_display.sh [OPTION...] PICTURES PROGRAM [ARGUMENT...]
 #
-#   --start   first sets the RAM size and starts the emulator, which must be the stand-in
+#   --start MEGABYTES      first sets the RAM size and starts the emulator, the stand-in
+#   --windows              leaves pictures of the other windows, too, on the whole screen
+#   --screen WIDTHxHEIGHT  how large the screen is
+#   --locale NAME          whose language is shown; the RAM size needs the English keys
 set -euo pipefail
 
-megabytes=
-if [ "$1" = --start ]; then
-  megabytes=$2
-  shift 2
-fi
+megabytes='' windows=false screen=1280x1024 locale=C.UTF-8
+while [[ $1 == --* ]]; do
+  case $1 in
+    --start) megabytes=$2 && shift ;;
+    --windows) windows=true ;;
+    --screen) screen=$2 && shift ;;
+    --locale) locale=$2 && shift ;;
+  esac
+  shift
+done
 pictures=$1
 shift
 
@@ -46,16 +54,17 @@ isRunning() { kill -0 "$1" 2>/dev/null; }
 hasEnded() { ! isRunning "$1"; }
 
 startDisplay() {
-  Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$scratch/display" \
+  Xvfb -displayfd 3 -screen 0 "${screen}x24" -nolisten tcp 3>"$scratch/display" \
     2>"$scratch/xvfb" &
   children+=($!)
   waitFor 20 [ -s "$scratch/display" ] || fail "Xvfb does not start: $(<"$scratch/xvfb")"
   DISPLAY=:$(<"$scratch/display")
   export DISPLAY QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$scratch
-  # The keys that are pressed here are those of the English window.
-  export LC_ALL=C.UTF-8
+  export LC_ALL=$locale
   unset WAYLAND_DISPLAY LANGUAGE
 }
+
+visibleWindows() { xdotool search --onlyvisible --class quillon-settings 2>/dev/null; }
 
 hasWindow() {
   local status=0
@@ -64,12 +73,13 @@ hasWindow() {
     echo "The program ended before it showed its window." >&2
     exit $((status > 0 ? status : 1))
   fi
-  window=$(xdotool search --onlyvisible --name '^Quillon Settings' 2>/dev/null | head -n 1)
+  window=$(visibleWindows | head -n 1)
   [ -n "$window" ]
 }
 
 # There is no window manager that would give it the focus.
 hasFocus() {
+  xdotool mousemove 4096 4096  # over nothing that would explain itself
   xdotool windowfocus "$window" 2>/dev/null
   [ "$(xdotool getwindowfocus -f 2>/dev/null)" = "$window" ]
 }
@@ -83,7 +93,7 @@ takePicture() {
 isNewTab() {
   local strip last=$picture
   takePicture || return 1
-  strip=$(convert "$scratch/now.png" -crop x80+0+0 +repage -format '%#' info:)
+  strip=$(convert "$scratch/now.png" -crop 100%x15%+0+0 +repage -format '%#' info:)
   picture=$(identify -format '%#' "$scratch/now.png")
   [ "$picture" = "$last" ] && [[ " $strips " != *" $strip "* ]] && strips+=" $strip"
 }
@@ -95,11 +105,43 @@ pictureTabs() {
   for tab in "${tabs[@]}"; do
     rm -f "$pictures/$tab.png"
     [ "$tab" != scsi ] || "$scsi" || continue
-    xdotool key "alt+$((++number))"
+    xdotool key "alt+$((++number))" key Tab  # to the first control, which tells its help
     waitFor 20 isNewTab || fail "The tab for $tab.png does not show."
     [ "$(identify -format '%k' "$scratch/now.png")" -gt 16 ] || fail "$tab.png is empty."
     mv "$scratch/now.png" "$pictures/$tab.png"
   done
+}
+
+isStill() {
+  local last=$picture
+  import -silent -window root "png:$scratch/now.png"
+  picture=$(identify -format '%#' "$scratch/now.png")
+  [ "$picture" = "$last" ]
+}
+
+hasOpened() { [ "$(visibleWindows)" != "$window" ]; }
+hasClosed() { [ "$(visibleWindows)" = "$window" ]; }
+
+# pictureWindow NAME XDOTOOL...: what opens, or only changes, by these keys.
+pictureWindow() {
+  local name=$1
+  shift
+  waitFor 20 hasFocus || fail "The window does not take the focus back."
+  xdotool "$@"
+  waitFor 20 hasOpened || fail "Nothing opens for $name.png."
+  picture=''
+  waitFor 20 isStill || fail "$name.png does not come to rest."
+  mv "$scratch/now.png" "$pictures/$name.png"
+  xdotool key Escape
+  waitFor 20 hasClosed || fail "What $name.png shows does not close."
+}
+
+pictureWindows() {
+  pictureWindow preferences key ctrl+comma
+  pictureWindow create key ctrl+n
+  pictureWindow agreement key alt+h sleep 0.3 key Return
+  pictureWindow file-panel key ctrl+o
+  pictureWindow find key ctrl+f type s
 }
 
 setRamAndStart() {
@@ -120,7 +162,8 @@ waitFor 30 hasWindow || fail "The program shows no window."
 waitFor 20 hasFocus || fail "The window does not take the focus."
 [ -z "$megabytes" ] || setRamAndStart
 pictureTabs
-echo "A picture of every tab is in $pictures."
+! "$windows" || pictureWindows
+echo "The pictures are in $pictures."
 xdotool key ctrl+q
 waitFor 20 hasEnded "$program" || fail "The program does not quit."
 wait "$program"

@@ -501,6 +501,18 @@
         <source>Activity</source>
         <translation>Aktivität</translation>
     </message>
+    <message>
+        <source>%1, %2 × %3</source>
+        <translation>%1, %2 × %3</translation>
+    </message>
+    <message>
+        <source>Until you choose one it says &quot;%1&quot;.</source>
+        <translation>Bis Sie etwas auswählen, steht dort „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a line break in its name or in that of a folder, which the preferences file cannot hold. Please rename it first.</source>
+        <translation>„%1“ enthält einen Zeilenumbruch, im eigenen Namen oder in dem eines Ordners. Einen solchen kann die Einstellungsdatei nicht aufnehmen. Bitte ändern Sie zuerst den Namen.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -509,8 +521,8 @@
         <translation>Beta-Vereinbarung</translation>
     </message>
     <message>
-        <source>&lt;p&gt;This program is a beta version. It changes three things on this computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Quillon&apos;s preferences file, when you press Save or Start;&lt;/li&gt;&lt;li&gt;its own settings, when you press Done in its preferences;&lt;/li&gt;&lt;li&gt;the disk images that you ask it to make.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Keep a copy of what you cannot do without. Disagree ends the program at once, without saving.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Dieses Programm ist eine Betaversion. Es verändert drei Dinge auf diesem Computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;die Einstellungsdatei von Quillon, wenn Sie auf „Speichern“ oder „Starten“ klicken;&lt;/li&gt;&lt;li&gt;seine eigenen Einstellungen, wenn Sie dort auf „Fertig“ klicken;&lt;/li&gt;&lt;li&gt;die Festplattenabbilder, die Sie anlegen lassen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Bewahren Sie eine Kopie von allem auf, worauf Sie nicht verzichten können. „Ablehnen“ beendet das Programm sofort, ohne zu speichern.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;This program is a beta version. It changes three things on this computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Quillon&apos;s preferences file, when you press Save, Start or Copy, and once when there is none yet;&lt;/li&gt;&lt;li&gt;its own settings, when you press Done in its preferences;&lt;/li&gt;&lt;li&gt;the disk images that you ask it to make.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Keep a copy of what you cannot do without. Disagree ends the program at once, without saving.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Dieses Programm ist eine Betaversion. Es verändert drei Dinge auf diesem Computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;die Einstellungsdatei von Quillon, wenn Sie auf „Speichern“, „Starten“ oder „Kopieren“ klicken, und einmal, wenn es noch keine gibt;&lt;/li&gt;&lt;li&gt;seine eigenen Einstellungen, wenn Sie dort auf „Fertig“ klicken;&lt;/li&gt;&lt;li&gt;die Festplattenabbilder, die Sie anlegen lassen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Bewahren Sie eine Kopie von allem auf, worauf Sie nicht verzichten können. „Ablehnen“ beendet das Programm sofort, ohne zu speichern.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Disagree</source>
@@ -673,8 +685,8 @@
         <translation>Nach dem &amp;Starten beenden</translation>
     </message>
     <message>
-        <source>Ends this program once Quillon has been started.</source>
-        <translation>Beendet dieses Programm, sobald Quillon gestartet wurde.</translation>
+        <source>Whether Start also ends this program.</source>
+        <translation>Ob „Starten“ auch dieses Programm beendet.</translation>
     </message>
     <message>
         <source>The application that Start launches. &quot;Quillon&quot; must be part of the name.</source>
@@ -802,6 +814,14 @@
     <message>
         <source>&lt;p&gt;&lt;b&gt;Quillon Settings %1&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Sets up Quillon, an emulator of 68k Macintosh computers, and starts it.&lt;/p&gt;</source>
         <translation>&lt;p&gt;&lt;b&gt;Quillon-Einstellungen %1&lt;/b&gt;&lt;/p&gt;&lt;p&gt;Richtet Quillon ein, einen Emulator für 68k-Macintosh-Computer, und startet ihn.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
+        <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,119 @@
+#include "desktop/appearance.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOption>
+#include <cmath>
+
+namespace desktop {
+namespace {
+
+bool isDark(const QColor& color) { return color.lightness() < 128; }
+
+int distance(const QColor& one, const QColor& other) {
+  return std::abs(one.lightness() - other.lightness());
+}
+
+QColor middle(const QColor& one, const QColor& other) {
+  return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+          (one.blue() + other.blue()) / 2};
+}
+
+// Qt's own style draws borders a little darker than the window. Where that is black already,
+// fields and boxes can be told from their surroundings by nothing.
+bool hidesBorders(const QPalette& palette) {
+  const QColor window = palette.color(QPalette::Window);
+  return isDark(window) && distance(window, palette.color(QPalette::Base)) < 12;
+}
+
+// Qt's own style with borders in a colour between those of the text and of the window.
+class BorderedStyle : public QProxyStyle {
+ public:
+  BorderedStyle() : QProxyStyle(QLatin1String("Fusion")) {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+      case PE_IndicatorRadioButton:
+        drawBorder(option, painter, option->rect.height());
+        break;
+      case PE_FrameTabWidget:  // does not show the focus, the tabs do
+        drawBorder(option, painter, 2, false);
+        break;
+      case PE_Frame:
+      case PE_FrameLineEdit:
+      case PE_IndicatorCheckBox:
+      case PE_PanelButtonCommand:
+        drawBorder(option, painter, 2);
+        break;
+      default:
+        break;
+    }
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox || control == CC_SpinBox) {
+      drawBorder(option, painter, 2);
+    }
+  }
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const bool selected = (option->state & State_Selected) != 0;
+    if ((element == CE_TabBarTabShape && selected) || element == CE_ProgressBarGroove) {
+      drawBorder(option, painter, 2);
+    }
+  }
+
+ private:
+  static void drawBorder(const QStyleOption* option, QPainter* painter, int roundness,
+                         bool showsFocus = true) {
+    const QPalette& palette = option->palette;
+    const bool focused = showsFocus && (option->state & State_HasFocus) != 0;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(
+        focused ? palette.color(QPalette::Highlight)
+                : middle(palette.color(QPalette::WindowText), palette.color(QPalette::Window)));
+    painter->setBrush(Qt::NoBrush);
+    const double radius = roundness / 2.0;
+    painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter->restore();
+  }
+};
+
+}  // namespace
+
+QPalette readable(QPalette palette) {
+  const QColor window = palette.color(QPalette::Window);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    if (distance(palette.color(QPalette::Disabled, role), window) < 64) {
+      palette.setColor(QPalette::Disabled, role,
+                       middle(palette.color(QPalette::Active, role), window));
+    }
+  }
+  if (isDark(palette.color(QPalette::Base)) == isDark(palette.color(QPalette::PlaceholderText))) {
+    QColor color = palette.color(QPalette::Text);
+    color.setAlpha(170);
+    palette.setColor(QPalette::PlaceholderText, color);
+  }
+  return palette;
+}
+
+void makeReadable() {
+  const QPalette palette = QApplication::palette();
+  const QPalette better = readable(palette);
+  if (better != palette) {
+    QApplication::setPalette(better);
+  }
+  if (hidesBorders(palette) && QApplication::style()->name() == QLatin1String("fusion")) {
+    QApplication::setStyle(new BorderedStyle);
+  }
+}
+
+}  // namespace desktop

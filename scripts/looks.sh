@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# Leaves pictures of every tab and window as people with other screens, languages and eyes have
+# them, for somebody to look at.
+#
+#   looks.sh [FOLDER [LOOK...]]
+#
+# The folder is build/looks unless named, the looks are all of them. Build with ./run.sh before;
+# BUNDLE names another bundle.
+set -euo pipefail
+root=$(dirname "$(dirname "$(readlink -f "$0")")")
+. "$root/scripts/packages.sh"
+. "$root/scripts/demo.sh"
+
+pictures=$(realpath -m "${1:-$root/build/looks}")
+looks=("${@:2}")
+[ $# -gt 1 ] || looks=(light dark contrast double german mirrored small large-font)
+bundle=${BUNDLE:-$root/build/release/QuillonSettings.app}
+log=$(mktemp)
+trap 'rm -rf "$log" "${demoHome:-$log}"' EXIT
+
+# theme FONT-SIZE WINDOW VIEW TEXT HIGHLIGHT HIGHLIGHTED: has Qt read colours and a font as on KDE.
+theme() {
+  mkdir -p "$XDG_CONFIG_HOME"
+  cat >"$XDG_CONFIG_HOME/kdeglobals" <<END
+[General]
+widgetStyle=Fusion
+font=Sans,$1,-1,5,50,0,0,0,0,0
+[Colors:Window]
+BackgroundNormal=$2
+ForegroundNormal=$4
+[Colors:View]
+BackgroundNormal=$3
+BackgroundAlternate=$2
+ForegroundNormal=$4
+[Colors:Button]
+BackgroundNormal=$2
+ForegroundNormal=$4
+[Colors:Selection]
+BackgroundNormal=$5
+ForegroundNormal=$6
+[Colors:Tooltip]
+BackgroundNormal=$2
+ForegroundNormal=$4
+END
+  export XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+}
+
+# takeLook NAME: runs in a shell of its own, which the settings of one look do not leave.
+takeLook() {
+  local options=(--windows)
+  case $1 in
+    light) ;;
+    dark) theme 9 49,54,59 35,38,41 252,252,252 61,174,233 252,252,252 ;;
+    contrast) theme 9 0,0,0 0,0,0 255,255,255 255,255,0 0,0,0 ;;
+    double) export QT_SCALE_FACTOR=2 && options+=(--screen 2048x1400) ;;
+    german) options+=(--locale de_DE.UTF-8) ;;
+    mirrored) options+=(--locale ar_EG.UTF-8) ;;  # of Qt's own texts, which tell the direction
+    small) options+=(--screen 1024x600) ;;
+    large-font) theme 14 239,239,239 255,255,255 0,0,0 48,140,198 255,255,255 ;;
+    *) echo "There is no look $1." >&2 && return 1 ;;
+  esac
+  "$root/scripts/virtual_display.sh" "${options[@]}" "$pictures/$1" \
+    "$HOME/${bundle##*/}/Contents/MacOS/quillon-settings" >"$log" 2>&1 ||
+    { cat "$log" >&2 && return 1; }
+}
+
+installMissing "${buildPackages[@]}" "${displayPackages[@]}"
+[ -e "$bundle" ] || { echo "$bundle is not built." >&2 && exit 1; }
+for look in "${looks[@]}"; do
+  makeDemoHome "$root" "$bundle" >/dev/null
+  sed -i '/SCSI Tab/ { n; s/false/true/ }' "$demoHome/${bundle##*/}/Contents/Resources/Prefs.plist"
+  (enterDemoHome && takeLook "$look")
+  rm -rf "$demoHome"
+  echo "$pictures/$look"
+done
