@@ -11,7 +11,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::filesystem::remove(host.home.path(tests::FakeHost::prefs));
   host.notifications = {};
   host.panels.shown.clear();
-  host.application.calls.clear();
   editor::ViewController window(host.host());
   window.viewDidLoad();
   fuzz::ControlHand hand;

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
+#include <plist/plist.h>
 #include <unistd.h>
+
+#include <algorithm>
 
 #include "app/emulator_location.h"
 #include "app/settings_store.h"
@@ -10,166 +13,122 @@ namespace app {
 namespace {
 
 namespace fs = std::filesystem;
-using platform::PropertyList;
 using tests::FakeHost;
 
-const std::vector<std::string> keys = {"Quillon.app location", "Start Button Enabled", "Start Flag",
-                                       "SCSI Tab", "Quit on Start"};
-// Values that no key ships with, and for each key one of a wrong type.
-const std::vector<std::string> values = {"<string>/Q\u00fc &amp; A.app</string>", "<false/>",
-                                         "<integer>7</integer>", "<true/>", "<true/>"};
-const std::vector<std::string> wrong = {"<true/>", "<integer>0</integer>", "<string>7</string>",
-                                        "<string>true</string>", "<real>1</real>"};
+const std::string file =
+    "<plist version=\"1.0\"><dict><key>Quillon.app location</key><string>/Q\u00fc &amp; "
+    "A.app</string><key>Start Button Enabled</key><false/><key>Start Flag</key>"
+    "<integer>7</integer><key>SCSI Tab</key><true/><key>Quit on Start</key><true/>"
+    "<key>Mine</key><array><real>1.5</real><date>2020-01-02T03:04:05Z</date><integer>-5</integer>"
+    "<data>AAEC</data><dict><key>k</key><string>&lt;v</string></dict></array></dict></plist>\n";
 
-std::string plist(const std::string& body) {
-  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + body +
-         "</plist>\n";
+std::string with(const std::string& part, const std::string& instead) {
+  return std::string(file).replace(file.find(part), part.size(), instead);
 }
 
-// All keys but the one at `without`, which gets another value or none.
-std::string settings(std::size_t without = 99, const std::string& instead = {}) {
-  std::string body;
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    const std::string& value = i == without ? instead : values[i];
-    body += value.empty() ? "" : "<key>" + keys[i] + "</key>" + value;
-  }
-  return plist("<dict>" + body + "<key>Mine</key><array><real>1.5</real><dict/></array></dict>");
+std::string binary(const std::string& xml) {
+  plist_t root = nullptr;
+  char* bytes = nullptr;
+  std::uint32_t size = 0;
+  plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &root);
+  plist_to_bin(root, &bytes, &size);
+  std::string result(bytes, size);
+  plist_to_bin_free(bytes);
+  plist_free(root);
+  return result;
 }
 
-// What sharedVar holds, in the order of the keys.
-std::vector<std::string> shared() {
-  return {sharedVar::pathToQuil, sharedVar::startState ? "true" : "false",
-          std::to_string(sharedVar::startFlag), sharedVar::scsiTabState ? "true" : "false",
-          sharedVar::quitGUI ? "true" : "false"};
+// What sharedVar holds.
+std::string shared() {
+  return sharedVar::pathToQuil + (sharedVar::startState ? " start " : " - ") +
+         std::to_string(sharedVar::startFlag) + (sharedVar::scsiTabState ? " SCSI" : " -") +
+         (sharedVar::quitGUI ? " quit" : " -");
 }
 
-const std::vector<std::string> shipped = {"", "true", "2", "false", "false"};
-const std::vector<std::string> own = {"/Q\u00fc & A.app", "false", "7", "true", "true"};
-
-std::vector<std::string> load(FakeHost& host) {
-  SettingsStore(host.host()).load();
-  return shared();
-}
-
-TEST(SettingsStore, UnusableFilesGiveTheShippedValues) {
+TEST(SettingsStore, WhatIsUnusableHasTheShippedValue) {
+  const std::string shipped = " start 2 - -";
   FakeHost host;
-  EXPECT_EQ(load(host), shipped);
+  SettingsStore(host.host()).load();
+  EXPECT_EQ(shared(), shipped);
   EXPECT_EQ(host.said(), "") << "the shipped file holds all keys";
-  const std::vector<std::string> contents = {"",
-                                             "garbage",
-                                             plist("<array/>"),
-                                             plist("<string>x</string>"),
-                                             "bplist00\x01\x02",
-                                             settings() + std::string(std::size_t{64} * 1024, ' '),
-                                             "folder",
-                                             "missing"};
-  for (const std::string& content : contents) {
-    SCOPED_TRACE(content.substr(0, 100));
+  std::string deep = with("<real>1.5</real>", "<array></array>");
+  for (int depth = 1; depth < 4000; ++depth) {
+    deep.insert(deep.find("</array>"), "<array></array>");
+  }
+  std::vector<std::tuple<std::string, std::string, int>> cases = {
+      // the content, what is loaded, how many keys are told
+      {file, "/Q\u00fc & A.app - 7 SCSI quit", 0},
+      {deep, "/Q\u00fc & A.app - 7 SCSI quit", 0},
+      {binary(deep), "/Q\u00fc & A.app - 7 SCSI quit", 0},
+      {with("<false/>", "<integer>0</integer>"), "/Q\u00fc & A.app start 7 SCSI quit", 1},
+      {with("<string>/Q\u00fc &amp; A.app</string>", "<true/>"), " - 7 SCSI quit", 1}};
+  for (const std::string& unusable :
+       {std::string(), std::string("garbage"), file.substr(0, 200), binary(file).substr(0, 100),
+        std::string("<plist><array/></plist>"), file + std::string(1 << 16, ' '),
+        std::string("folder"), std::string("missing")}) {
+    cases.emplace_back(unusable, shipped, 5);
+  }
+  for (const auto& [content, loaded, told] : cases) {
+    SCOPED_TRACE(content.substr(0, 400));
     fs::remove_all(host.home.path(FakeHost::settings));
     if (content == "folder") {
       fs::create_directory(host.home.path(FakeHost::settings));
     } else if (content != "missing") {
       host.home.write(FakeHost::settings, content);
     }
-    EXPECT_EQ(load(host), shipped);
-    std::string said = host.said();
-    for (const std::string& key : keys) {
-      EXPECT_TRUE(said.starts_with("Prefs.plist: no usable \"" + key + "\" (")) << said;
-      said.erase(0, said.find('\n') + 1);
-    }
-    EXPECT_EQ(said, "");
+    SettingsStore(host.host()).load();
+    EXPECT_EQ(shared(), loaded);
+    const std::string said = host.said();
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), told) << said;
   }
-}
-
-// Gives sharedVar the values of `own` and has them written.
-void changeAll(SettingsStore& store) {
-  sharedVar::pathToQuil = own[0];
-  sharedVar::startState = false;
-  sharedVar::startFlag = 7;
-  sharedVar::scsiTabState = sharedVar::quitGUI = true;
-  store.writeBack();
 }
 
 TEST(SettingsStore, WritesBackWithWhatItDoesNotKnow) {
-  FakeHost host;
-  host.home.write(FakeHost::settings, settings(2, "<string>wrong</string>"));
-  SettingsStore store(host.host());
-  store.load();
-  host.said();
-  changeAll(store);
-  const std::string written = host.home.read(FakeHost::settings);
-  EXPECT_EQ(host.said(), std::to_string(written.size()) + " bytes\n");
-  EXPECT_NE(written.find("<key>Mine</key>"), std::string::npos);
-  EXPECT_NE(written.find("<real>1.5"), std::string::npos);
-  EXPECT_EQ(load(host), own);
-  EXPECT_EQ(host.said(), "") << "repaired";
-  fs::remove(host.home.path(FakeHost::settings));
-  fs::create_directory(host.home.path(FakeHost::settings));
-  store.writeBack();
-  EXPECT_EQ(host.said(), std::to_string(written.size()) + " bytes\nIs a directory\n");
-}
-
-TEST(SettingsStore, WithoutAWritableBundleTakesTheConfigFolder) {
   const std::string mine = ".config/quillon-settings/Prefs.plist";
-  FakeHost host;
-  const std::string text = settings(2, "<integer>1</integer>");
-  host.home.write(FakeHost::settings, text);
-  fs::permissions(host.home.path(FakeHost::settings), fs::perms(0444));
-  // The superuser may write everything: ask as somebody else.
-  const bool superuser = ::getuid() == 0;
-  ASSERT_TRUE(!superuser || ::setreuid(65534, static_cast<uid_t>(-1)) == 0);
-  SettingsStore store(host.host());
-  ASSERT_TRUE(!superuser || ::setreuid(0, static_cast<uid_t>(-1)) == 0);
-  store.load();
-  EXPECT_EQ(sharedVar::startFlag, 1) << "as the bundle's file says";
-  EXPECT_FALSE(fs::exists(host.home.path(mine)));
-  changeAll(store);
-  EXPECT_EQ(host.home.read(FakeHost::settings), text);
-  EXPECT_NE(host.home.read(mine).find("<key>Mine</key>"), std::string::npos);
-  sharedVar::startFlag = 0;
-  store.load();
-  EXPECT_EQ(shared(), own);
-
-  FakeHost other;
-  fs::remove_all(other.home.path("QuillonSettings.app"));
-  SettingsStore elsewhere(other.host());
-  changeAll(elsewhere);
-  EXPECT_EQ(std::to_string(other.home.read(mine).size()) + " bytes\n", other.said());
-  EXPECT_FALSE(fs::exists(other.home.path("QuillonSettings.app")));
+  const std::string old = with("<integer>7</integer>", "<string>7</string>");
+  for (const bool writable : {true, false}) {
+    FakeHost host;
+    const std::string path = host.home.write(FakeHost::settings, writable ? old : binary(old));
+    fs::permissions(path, fs::perms(writable ? 0644 : 0444));
+    // The superuser may write everything: ask as somebody else.
+    const bool superuser = !writable && ::getuid() == 0;
+    ASSERT_TRUE(!superuser || ::setreuid(65534, static_cast<uid_t>(-1)) == 0);
+    SettingsStore store(host.host());
+    ASSERT_TRUE(!superuser || ::setreuid(0, static_cast<uid_t>(-1)) == 0);
+    store.load();
+    EXPECT_EQ(host.said(), "Prefs.plist: no usable \"Start Flag\", taking 2\n");
+    store.writeBack();
+    const std::string written = host.home.read(writable ? FakeHost::settings : mine);
+    const std::string bytes = std::to_string(written.size()) + " bytes\n";
+    for (const auto* kept : {"<key>Mine</key>", "<real>1.5", "<date>2020-01-02T03:04:05Z", "AAEC",
+                             "<integer>-5", "<key>k</key>", "<string>&lt;v"}) {
+      EXPECT_NE(written.find(kept), written.npos) << kept << " in " << written;
+    }
+    EXPECT_EQ(host.home.read(writable ? mine : FakeHost::settings), writable ? "" : binary(old));
+    store.load();
+    EXPECT_EQ(host.said() + shared(), bytes + "/Q\u00fc & A.app - 2 SCSI quit");
+    fs::remove(path);
+    fs::create_directory(path);
+    store.writeBack();
+    EXPECT_EQ(host.said(), bytes + (writable ? "Is a directory\n" : ""));
+  }
 }
 
 TEST(EmulatorLocation, FollowsTheBundle) {
-  struct Case {
-    std::string bundle;
-    std::string folder;
-    std::string root;
-  };
-  const std::vector<Case> cases = {{"/Applications/Q.app", "/Applications", "/Applications/"},
-                                   {"/my apps/a  b/Q S.app", "/my apps/a  b", "/my apps/a  b/"},
-                                   {"/\u00c9mu 100%/Q.app", "/\u00c9mu 100%", "/%C3%89mu 100%25/"},
-                                   {"/a%20b/Q.app", "/a%20b", "/a%2520b/"},
-                                   {"/a[1]?#/Q.app", "/a[1]?#", "/a%5B1%5D%3F%23/"},
-                                   {"/Q.app", "/", "/"}};
-  for (const Case& each : cases) {
-    FakeHost host;
-    findLocalPath(platform::Bundle(each.bundle), host.output);
-    EXPECT_EQ(host.said(), "local path is: " + each.folder + "\n");
-    EXPECT_EQ(sharedVar::pathToQuilRoot, each.root);
-    EXPECT_EQ(sharedVar::localPath->path(), each.folder);
-    for (const std::int64_t mode : {0, 1, 2, 3, -1}) {
-      sharedVar::startFlag = mode;
-      sharedVar::pathToQuil = "stored";
-      applyLocalRule(host.output);
-      const bool local = mode == 2;
-      EXPECT_EQ(sharedVar::pathToQuil, local ? each.root + "/Quillon.app" : "stored");
-      EXPECT_EQ(host.said(), local ? "local path is enabled: " + each.root + "/Quillon.app\n" : "");
-    }
-  }
+  const std::string root = "/\u00c9  100%[?#";
   FakeHost host;
   sharedVar::startFlag = startLocal;
-  sharedVar::pathToQuil = "stored";
-  applyLocalRule(host.output);
-  EXPECT_EQ(sharedVar::pathToQuil, "stored") << "without a root";
+  applyLocalRule(host.output);  // without a root
+  findLocalPath(platform::Bundle(root + "/Q S.app"), host.output);
+  for (const std::int64_t mode : {2, 1, -1}) {
+    sharedVar::startFlag = mode;
+    applyLocalRule(host.output);
+  }
+  const std::string found = "/%C3%89  100%25%5B%3F%23//Quillon.app";
+  EXPECT_EQ(host.said(), "local path is: " + root + "\nlocal path is enabled: " + found + "\n");
+  EXPECT_EQ(sharedVar::pathToQuil, found);
+  findLocalPath(platform::Bundle("/Q.app"), host.output);
+  EXPECT_EQ(sharedVar::pathToQuilRoot, "/");
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QTimer>
 #include <csignal>
-#include <functional>
 
 #include "desktop/run.h"
 
@@ -14,43 +13,38 @@ namespace {
 
 // One thing that happens: "close", a signal's number, a button's name or a menu entry's text.
 void perform(QWidget* window, const QString& step) {
-  if (const int number = step.toInt(); number != 0) {
-    (void)std::raise(number);
+  for (QAction* const entry : window->findChildren<QAction*>()) {
+    if (entry->text() == step) {
+      return entry->trigger();
+    }
+  }
+  if (auto* const button = window->findChild<QAbstractButton*>(step)) {
+    button->click();
   } else if (step == QLatin1String("close")) {
     window->close();
-  } else if (auto* const button = window->findChild<QAbstractButton*>(step)) {
-    button->click();
   } else {
-    for (QAction* const entry : window->findChildren<QAction*>()) {
-      if (entry->text() == step) {
-        entry->trigger();
-      }
-    }
+    (void)std::raise(step.toInt());
   }
 }
 
 // Runs the program in a home and a bundle, edits something and performs the steps one by one.
 int runProgram(int argc, char** argv) {
   platform::DescriptorOutput output(1);
-  QObject person;
-  QStringList steps;
-  for (int index = 4; index < argc; ++index) {
-    steps.append(QString::fromUtf8(argv[index]));
-  }
-  const std::function<void()> act = [&] {
+  QTimer person;
+  int next = 4;
+  const auto act = [&] {
     for (QWidget* const window : QApplication::topLevelWidgets()) {
       // It is all there only some time after it has come up.
-      if (auto* const field = window->findChild<QLineEdit*>(QLatin1String("romFile"))) {
+      auto* const field = window->findChild<QLineEdit*>(QLatin1String("romFile"));
+      if (field != nullptr && next < argc) {
         field->setText(QLatin1String("/never/saved/unless/asked"));
-        perform(window, steps.takeFirst());
-        break;
+        return perform(window, QString::fromUtf8(argv[next++]));
       }
     }
-    if (!steps.isEmpty()) {
-      QTimer::singleShot(5, &person, act);
-    }
   };
-  QMetaObject::invokeMethod(&person, act, Qt::QueuedConnection);
+  QObject::connect(&person, &QTimer::timeout, act);
+  QMetaObject::invokeMethod(
+      &person, [&] { person.start(5); }, Qt::QueuedConnection);
   const std::string home = argv[2];
   return desktop::run(argc, argv,
                       {home, home + "/.config", platform::Bundle(argv[3]), output, "test"});

@@ -22,30 +22,19 @@ namespace tests {
 
 /// The running application, but for what would end it.
 struct TestedApplication : desktop::Application {
-  std::vector<std::string> calls;
-  void terminate() override { calls.emplace_back("terminate"); }
-  void exitNow() override { calls.emplace_back("exit"); }
+  void terminate() override {}
+  void exitNow() override {}
 };
 
 /// The settings window over a home of its own, driven as a person does.
 class WindowTest : public testing::Test {
  protected:
-  platform::Host host() {
-    const platform::Host host = fake.host();
-    return {host.homeDirectory, host.configHome, host.bundle, fake.output,
-            fake.panels,        fake.workspace,  application, fake.notifications};
-  }
-
   void open(const std::string& preferences = {}) {
     fake.home.write(FakeHost::prefs, preferences);
-    reopen();
-  }
-
-  void reopen() {
     window.reset();
-    controller.emplace(host());
+    controller.emplace(fake.host(application));
     controller->viewDidLoad();
-    window.emplace(*controller, host(), application.edits);
+    window.emplace(*controller, fake.host(application), application.edits);
     window->show();
     activate(&*window);
   }
@@ -63,26 +52,17 @@ class WindowTest : public testing::Test {
         return found;
       }
     }
-    ADD_FAILURE() << "no widget " << name;
-    throw std::logic_error(name);
+    throw std::logic_error(std::string("no widget ") + name);
   }
 
   QTabWidget* tabs() const { return find<QTabWidget>("tabViewC"); }
 
   void showTab(const char* label) const {
     for (int tab = 0; tab < tabs()->count(); ++tab) {
-      if (tabs()->tabText(tab).replace(QLatin1String("&&"), QLatin1String("&")) ==
-          QLatin1String(label)) {
+      if (tabs()->tabText(tab) == QLatin1String(label)) {
         tabs()->setCurrentIndex(tab);
-        return;
       }
     }
-    FAIL() << "no tab " << label;
-  }
-
-  static QString textOf(QWidget* widget) {
-    auto* const box = qobject_cast<QComboBox*>(widget);
-    return box != nullptr ? box->currentText() : widget->property("text").toString();
   }
 
   /// Keys go to the window that has the focus, as they do from a keyboard.
@@ -99,16 +79,15 @@ class WindowTest : public testing::Test {
     return (popup != nullptr ? popup : QApplication::activeWindow())->windowHandle();
   }
 
-  static void click(QWidget* widget, QPoint place = {}) {
-    ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << widget->objectName().toStdString();
+  void click(const char* name) const {
+    QWidget* const widget = find(name);
+    ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << name;
     // Behind its text a check box does not answer.
     const bool checkable = widget->property("checkable").toBool();
-    const QPoint middle(checkable ? 10 : widget->width() / 2, widget->height() / 2);
-    const QPoint point = place.isNull() ? middle : place;
+    const QPoint place(checkable ? 10 : widget->width() / 2, widget->height() / 2);
     QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {},
-                      widget->mapTo(widget->window(), point));
+                      widget->mapTo(widget->window(), place));
   }
-  void click(const char* name) const { click(find(name)); }
 
   /// Replaces the text of a field, without ending the edit.
   void typeInto(const char* name, const char* text) const {
@@ -118,16 +97,7 @@ class WindowTest : public testing::Test {
     type(text);
   }
 
-  /// The value in the file.
-  std::string saved(document::Key wanted) const {
-    const std::string text = "\n" + fake.home.read(FakeHost::prefs);
-    const std::string start = "\n" + std::string(document::rowOf(wanted).text);
-    const auto at = text.find(start);
-    return at == std::string::npos
-               ? "(no line)"
-               : text.substr(at + start.size(), text.find('\n', at + 1) - at - start.size());
-  }
-
+  std::string file() const { return fake.home.read(fake.prefs); }
   std::string value(document::Key wanted) const { return controller->preferences.value(wanted); }
 
   FakeHost fake;

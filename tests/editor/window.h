@@ -3,6 +3,7 @@
 #include <string>
 
 #include "editor/view_controller.h"
+#include "fuzz/model.h"
 #include "tests/support/fake_host.h"
 
 namespace editor {
@@ -25,15 +26,11 @@ struct OpenWindow {
 
 /// A preferences file with all defaults, but one key with another value.
 inline std::string fileWith(Key key, const std::string& value) {
-  std::string text;
-  for (const document::KeyRow& row : document::keyTable) {
-    text += document::Preferences::line(row.key, row.key == key ? value : row.defaultValue) + "\n";
-  }
-  return text;
+  fuzz::Model model("");
+  model[key] = value;
+  return model.text();
 }
 
-inline std::string defaultFile() {
-  return fileWith(Key::cpu, std::string(document::rowOf(Key::cpu).defaultValue));
-}
+inline std::string defaultFile() { return fuzz::Model("").text(); }
 
 }  // namespace editor

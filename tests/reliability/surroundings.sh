@@ -1,37 +1,24 @@
 #!/usr/bin/env bash
 # shellcheck disable=SC2317  # the functions are run by name
 # Runs the program in surroundings that nobody prepared for it. Argument: its built bundle.
-set -uo pipefail
-
-work=$(mktemp -d /tmp/quillon-test-XXXXXX)
-trap 'rm -rf "$work"' EXIT
-cp -R "$1" "$work/QuillonSettings.app"
-program=$work/QuillonSettings.app/Contents/MacOS/quillon-settings
-export QT_QPA_PLATFORM=offscreen
-failed=0
+# shellcheck source=tests/reliability/check.sh
+. "$(dirname "$0")/check.sh"
 
 # The stand-in for the emulator leaves the surroundings in which it was started.
 mkdir -p "$work/Quillon.app/Contents/MacOS"
-cat >"$work/Quillon.app/Contents/MacOS/Quillon" <<'EOF'
-#!/bin/sh
-/bin/cat /proc/$$/environ >"${0%/Quillon.app/*}/found"
-EOF
+# shellcheck disable=SC2016  # until it runs
+printf '#!/bin/sh\n/bin/cat /proc/$$/environ >"${0%%/Quillon.app/*}/found"\n' \
+  >"$work/Quillon.app/Contents/MacOS/Quillon"
 chmod +x "$work/Quillon.app/Contents/MacOS/Quillon"
 
-# check NAME COMMAND...: whether the command succeeds.
-check() {
-  local name=$1 begin=$SECONDS result=ok
-  shift
-  "$@" || { result=FAILED failed=1; }
-  printf '%-7s %3d s  %s\n' "$result" $((SECONDS - begin)) "$name"
-}
+# lines COUNT: whether the preferences file has so many.
+lines() { [ "$(wc -l <"$HOME/.quillon_prefs")" -eq "$1" ]; }
 
 # Starts the emulator from a home folder; the status must be 0 and the file complete.
 starts() {
-  local home=$1
-  shift
-  rm -f "$home/.quillon_prefs"
-  timeout 20 "$@" "$program" --start >/dev/null 2>&1 && [ "$(wc -l <"$home/.quillon_prefs")" -eq 34 ]
+  local -x HOME=$1
+  rm -f "$HOME/.quillon_prefs"
+  timeout 20 "${@:2}" "$program" --start >/dev/null 2>&1 && lines 34
 }
 
 # The window opens, stays, and ends when it is told to.
@@ -42,7 +29,7 @@ while [ ${#long} -lt 3880 ]; do long+=/$(printf 'x%.0s' {1..200}); done
 for home in "$work/a plain home" "$work/ b  l a n k s " "$work/Größe ☃/e$(printf '\314\201')" \
   "$long" "$work/"$'new\nline' "$work/100%25 # ?"; do
   mkdir -p "$home"
-  check "HOME of ${#home} characters: ${home:0:60}" starts "$home" env HOME="$home"
+  check "HOME of ${#home} characters: ${home:0:60}" starts "$home" env
 done
 check "the window with such a HOME" opens env HOME="$long"
 
@@ -63,17 +50,15 @@ check "no home folder: told by the status" \
 
 # A closed stream must not be taken for a file that is opened later: the file would get the lines.
 for streams in '<&-' '>&-' '2>&-' '<&- >&- 2>&-'; do
-  check "closed streams: $streams" bash -c "rm '$HOME/.quillon_prefs'
-    timeout 20 '$program' --start >/dev/null 2>&1 $streams
-    [ \$(wc -l <'$HOME/.quillon_prefs') -eq 34 ]"
+  check "closed streams: $streams" starts "$HOME" bash -c "\"\$@\" $streams" bash
 done
 
 # The program gives up on its lines after a while, and nothing else.
 mkfifo "$work/pipe"
 exec 9<>"$work/pipe"
 yes 'disk /some/where.dsk' | head -n 2000 >"$HOME/.quillon_prefs"
-check "a full pipe that nobody reads" bash -c "timeout 20 '$program' --start >'$work/pipe' &&
-  [ \$(wc -l <'$HOME/.quillon_prefs') -eq 2034 ]"
+check "a full pipe that nobody reads" bash -c "timeout 20 '$program' --start >'$work/pipe'"
+check "and a complete file" lines 2034
 exec 9>&-
 
 rm -f "$work/found"
@@ -86,7 +71,7 @@ check "the emulator gets the environment as it is" cmp "$work/found" \
 # where there are too many of them.
 seq -f 'disk /home/me/disk image %.0f.dsk' 200000 >"$HOME/.quillon_prefs"
 check "200,000 images" bash -c "timeout 60 '$program' --start >/dev/null"
-check "all of them are still there" [ "$(grep -c '^disk ' "$HOME/.quillon_prefs")" -eq 200000 ]
+check "all of them are still there" lines 200034
 check "200,000 images, the lines going to a file" bash -c "
   timeout 120 '$program' --start >'$work/lines' &&
   [ \$(stat -c %s '$work/lines') -le $((1 << 30)) ]"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <deque>
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,33 +11,31 @@
 
 namespace tests {
 
-/// Answers panels in turn with what is queued, and with a cancel when nothing is.
+/// Answers panels in turn with what is queued, and with a cancel when nothing
+/// is.
 struct FakePanels : platform::Panels {
   std::deque<std::vector<platform::Location>> answers;
-  std::vector<std::string> shown;  // "modal", "panel", "sheet" or "save sheet"
-  platform::OpenPanel open;        // as shown last
-  platform::SavePanel save;
+  std::string shown;         // the kind and the title of the last one
+  platform::OpenPanel open;  // as shown last
 
   std::vector<platform::Location> runModal(const platform::OpenPanel& panel) override {
-    open = panel;
-    return answer("modal");
+    return answer("modal ", panel);
   }
   void begin(const platform::OpenPanel& panel, Chosen completion) override {
-    open = panel;
-    completion(answer("panel"));
+    completion(answer("panel ", panel));
   }
   void beginSheet(const platform::OpenPanel& panel, Chosen completion) override {
-    open = panel;
-    completion(answer("sheet"));
+    completion(answer("sheet ", panel));
   }
   void beginSheet(const platform::SavePanel& panel, Chosen completion) override {
-    save = panel;
-    completion(answer("save sheet"));
+    open.title = panel.title;
+    completion(answer("save sheet ", open));
   }
 
  private:
-  std::vector<platform::Location> answer(const char* kind) {
-    shown.emplace_back(kind);
+  std::vector<platform::Location> answer(const char* kind, const platform::OpenPanel& panel) {
+    shown = kind + panel.title;
+    open = panel;
     if (answers.empty()) {
       return {};
     }
@@ -48,45 +45,35 @@ struct FakePanels : platform::Panels {
   }
 };
 
-/// Its calls stand in angle brackets among the diagnostics, too, so that their order is seen.
+/// Its calls stand in angle brackets among the diagnostics, so that their order
+/// is seen.
 struct FakeWorkspace : platform::Workspace {
   explicit FakeWorkspace(platform::Output& log) : output(log) {}
 
   platform::Output& output;
   bool starts = true;
-  std::vector<std::string> launched;
 
   bool launchApplication(const std::string& path) override {
     output.print("<launch ", path, ">");
-    launched.push_back(path);
     return starts;
   }
 };
 
+/// The same.
 struct FakeApplication : platform::Application {
   explicit FakeApplication(platform::Output& log) : output(log) {}
 
   platform::Output& output;
-  std::vector<std::string> calls;
-  std::function<void()> endEditing;  // an edit that is under way
 
-  void terminate() override { note("terminate"); }
-  void exitNow() override { note("exit"); }
+  void terminate() override { output.print("<terminate>"); }
+  void exitNow() override { output.print("<exit>"); }
   void makeFirstResponder(platform::TextField& field) override {
-    note((field.isEnabled() ? "first responder " : "disabled first responder ") + field.name());
-    if (const auto end = std::exchange(endEditing, nullptr)) {
-      end();
-    }
-  }
-
- private:
-  void note(const std::string& call) {
-    output.print("<", call, ">");
-    calls.push_back(call);
+    output.print("<", field.isEnabled() ? "" : "disabled ", "first responder ", field.name(), ">");
   }
 };
 
-/// What controllers stand on, in a home folder of its own that also holds the bundle.
+/// What controllers stand on, in a home folder of its own that also holds the
+/// bundle.
 struct FakeHost {
   TemporaryFolder home;
   platform::BufferOutput output;
@@ -99,27 +86,22 @@ struct FakeHost {
   static constexpr const char* settings = "QuillonSettings.app/Contents/Resources/Prefs.plist";
 
   FakeHost() {
-    namespace fs = std::filesystem;
-    fs::create_directories(fs::path(home.path(settings)).parent_path());
-    fs::copy_file(QUILLON_SOURCE "/resources/Prefs.plist", home.path(settings));
+    home.write(settings, "");
+    std::filesystem::copy_file(QUILLON_SOURCE "/resources/Prefs.plist", home.path(settings),
+                               std::filesystem::copy_options::overwrite_existing);
     using Shared = app::sharedVar;
-    Shared::pathToQuil.clear();
-    Shared::pathToQuilRoot.clear();
+    Shared::pathToQuil = Shared::pathToQuilRoot = "";
     Shared::startFlag = app::startNone;
     Shared::localPath.reset();
     Shared::newScsiTab.reset();
     Shared::startState = Shared::scsiTabState = Shared::quitGUI = false;
   }
 
-  platform::Host host() {
-    return {home.path(),
-            home.path(".config"),
-            platform::Bundle(home.path("QuillonSettings.app")),
-            output,
-            panels,
-            workspace,
-            application,
-            notifications};
+  platform::Host host() { return host(application); }
+  platform::Host host(platform::Application& running) {
+    const platform::Bundle bundle(home.path("QuillonSettings.app"));
+    return {home.path(), home.path(".config"), bundle, output, panels, workspace,
+            running,     notifications};
   }
 
   /// The diagnostics since the last call.

@@ -36,7 +36,8 @@ class TemporaryFolder {
 
   /// The content of a file; empty when there is none.
   [[nodiscard]] std::string read(const std::string& name) const {
-    std::ifstream file(path(name), std::ios::binary);
+    const bool isFile = std::filesystem::is_regular_file(path(name));
+    std::ifstream file(isFile ? path(name) : std::string(), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
