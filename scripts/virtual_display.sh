@@ -54,7 +54,7 @@ isRunning() { kill -0 "$1" 2>/dev/null; }
 hasEnded() { ! isRunning "$1"; }
 
 startDisplay() {
-  Xvfb -displayfd 3 -screen 0 "${screen}x24" -nolisten tcp 3>"$scratch/display" \
+  Xvfb -displayfd 3 -screen 0 "${screen}x24" -noreset -nolisten tcp 3>"$scratch/display" \
     2>"$scratch/xvfb" &
   children+=($!)
   waitFor 20 [ -s "$scratch/display" ] || fail "Xvfb does not start: $(<"$scratch/xvfb")"
