@@ -92,7 +92,8 @@ def walk(frame):
 if sys.argv[3:] != ["walk"]:
     sys.exit(start_again_on_a_bus_of_its_own())
 reading, writing = os.pipe()
-with subprocess.Popen(["Xvfb", "-noreset", "-displayfd", str(writing)], pass_fds=[writing]) as display:
+server = ["Xvfb", "-noreset", "-displayfd", str(writing)]
+with subprocess.Popen(server, pass_fds=[writing]) as display:
     os.environ["DISPLAY"] = ":" + os.read(reading, 16).decode().strip()
     import gi
     gi.require_version("Atspi", "2.0")
