@@ -59,7 +59,7 @@ QVariant VolumeModel::data(const QModelIndex& index, int role) const {
 
 QVariant VolumeModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role == Qt::DisplayRole && orientation == Qt::Horizontal) {
-    return section == 0 ? tr("Disk image") : section == 1 ? tr("Size") : tr("Kind");
+    return section == 0 ? tr("Disk image") : section == 1 ? tr("Size") + columnGap : tr("Kind");
   }
   if (role == Qt::TextAlignmentRole && section == 1) {
     return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);

@@ -16,7 +16,8 @@ namespace desktop {
 
 namespace {
 
-// Paths and sizes are read from left to right in every language.
+// Paths and sizes are read from left to right in every language, and a column that ends at the
+// right keeps some distance from the next.
 class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -27,6 +28,9 @@ class CellDelegate : public QStyledItemDelegate {
     if (option->direction == Qt::RightToLeft) {
       constexpr QChar leftToRightMark(0x200e);
       option->text = leftToRightMark + option->text + leftToRightMark;
+    }
+    if (option->displayAlignment.testFlag(Qt::AlignRight)) {
+      option->text += columnGap;
     }
   }
 };
