@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -72,6 +73,27 @@ TEST_F(Editing, WhatIsBeingTypedIsPartOfTheSaveHoweverItIsAskedFor) {
     launches += QString::fromStdString(fake.said()).count(QLatin1String("<launch"));
   }
   EXPECT_EQ(launches, 2);
+}
+
+TEST_F(Editing, APastedTextIsOneLine) {
+  open("rom /old\n");
+  QApplication::clipboard()->setText(QLatin1String("/new\nramsize 1\r\n\n"));
+  for (const auto& [tab, name] : {std::pair("Machine", "romFile"), {"Network", "etherPort"}}) {
+    showTab(tab);
+    typeInto(name, "");
+    key(Qt::Key_V, control);
+    key(Qt::Key_S, control);
+  }
+  EXPECT_EQ(file(),
+            fuzz::Model("ramsize 67108864\nrom /new ramsize 1\nether /new ramsize 1\n").text());
+}
+
+TEST_F(Editing, AFileThatCannotBeReadIsToldUntilItIsReplaced) {
+  open("ramsize 8388608\nrom \xff\n");
+  EXPECT_TRUE(find("readError")->isVisible());
+  key(Qt::Key_S, control);
+  QTest::qWait(1);
+  EXPECT_FALSE(find("readError")->isVisible());
 }
 
 TEST_F(Editing, OnlyAnAcceptedTextGetsIntoTheRamBox) {

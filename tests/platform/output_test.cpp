@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <optional>
 
 namespace platform {
 
@@ -31,6 +32,25 @@ TEST(DescriptorOutput, GivesUpOnAReaderThatSleepsOrIsGone) {
   }
   ::close(sleeping[0]);
   ::signal(SIGPIPE, former);
+}
+
+TEST(DescriptorOutput, GatheredLinesKeepTheirOrderAndAreAllThere) {
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  std::string wanted;
+  DescriptorOutput output(ends[1]);
+  for (const bool gathers : {true, false}) {
+    std::optional<Output::Gathering> gathering;
+    gathers ? (void)gathering.emplace(output) : void();
+    for (const std::size_t size : {5U, 9000U, 20U, 4096U, 4090U, 0U, 3U}) {
+      output.print(std::string(size, static_cast<char>('a' + size % 26)), "!");
+      wanted += std::string(size, static_cast<char>('a' + size % 26)) + "!\n";
+    }
+  }
+  std::string found(wanted.size() + 1, ' ');
+  found.resize(static_cast<std::size_t>(::read(ends[0], found.data(), found.size())));
+  EXPECT_EQ(found, wanted);
+  ::close(ends[0]), ::close(ends[1]);
 }
 
 }  // namespace platform
