@@ -36,7 +36,9 @@ FindField::FindField(const SettingWidgets& places,
   setToolTip(tr("Type a word of a setting's name, its key or its help."));
   setWhatsThis(toolTip());
   setAccessibleDescription(toolTip());
-  setFixedWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
+  // Measuring the text itself would take longer than all else here.
+  const int letters = static_cast<int>(placeholderText().size());
+  setFixedWidth(letters * fontMetrics().averageCharWidth() + 3 * fontMetrics().height());
   connect(this, &QLineEdit::returnPressed, this, [this] {
     if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
       completer()->setCompletionPrefix(text());

@@ -11,6 +11,12 @@ class HelpLine : public QLabel {
  public:
   HelpLine();
 
+  // As wide as there is room, at a height of its own: laying the text out only to ask how large it
+  // would like to be takes longer than showing it.
+  [[nodiscard]] QSize sizeHint() const override { return {0, height()}; }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+  [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
   /// Explains the widgets inside `parent` that have something to tell.
   void follow(QWidget* parent);
 
