@@ -5,28 +5,11 @@
 
 #include "app/shared_var.h"
 #include "editor/view_controller.h"
+#include "platform/headless.h"
 #include "platform/host.h"
 
 namespace app {
 namespace {
-
-// Nothing can be typed or chosen where nothing is shown.
-class NoApplication : public platform::Application {
- public:
-  void terminate() override {}
-  void exitNow() override {}
-  void makeFirstResponder(platform::TextField& /*field*/) override {}
-};
-
-class NoPanels : public platform::Panels {
- public:
-  std::vector<platform::Location> runModal(const platform::OpenPanel& /*panel*/) override {
-    return {};
-  }
-  void begin(const platform::OpenPanel& /*panel*/, Chosen /*completion*/) override {}
-  void beginSheet(const platform::OpenPanel& /*panel*/, Chosen /*completion*/) override {}
-  void beginSheet(const platform::SavePanel& /*panel*/, Chosen /*completion*/) override {}
-};
 
 int fail(const std::string& reason) {
   std::cerr << "quillon-settings: " << reason << std::endl;
@@ -37,8 +20,8 @@ int fail(const std::string& reason) {
 
 int startWithoutWindow(const std::string& homeDirectory, const std::string& configHome,
                        const platform::Bundle& bundle, platform::Output& output) {
-  NoApplication application;
-  NoPanels panels;
+  platform::NoApplication application;
+  platform::NoPanels panels;
   platform::ProcessWorkspace workspace(homeDirectory);
   platform::NotificationCenter notifications;
   editor::ViewController controller(

@@ -4,33 +4,16 @@
 
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "platform/descriptor.h"
+#include "platform/headless.h"
 #include "platform/host.h"
 
 namespace bench {
 
-class NoApplication : public platform::Application {
- public:
-  void terminate() override {}
-  void exitNow() override {}
-  void makeFirstResponder(platform::TextField& /*field*/) override {}
-};
-
 class NoWorkspace : public platform::Workspace {
  public:
   bool launchApplication(const std::string& /*path*/) override { return true; }
-};
-
-class NoPanels : public platform::Panels {
- public:
-  std::vector<platform::Location> runModal(const platform::OpenPanel& /*panel*/) override {
-    return {};
-  }
-  void begin(const platform::OpenPanel& /*panel*/, Chosen /*completion*/) override {}
-  void beginSheet(const platform::OpenPanel& /*panel*/, Chosen /*completion*/) override {}
-  void beginSheet(const platform::SavePanel& /*panel*/, Chosen /*completion*/) override {}
 };
 
 /// What controllers stand on where nothing is shown and nothing is started. The diagnostics go the
@@ -56,9 +39,9 @@ class Host {
 
  public:
   platform::DescriptorOutput output{null_.get()};
-  NoPanels panels;
+  platform::NoPanels panels;
   NoWorkspace workspace;
-  NoApplication application;
+  platform::NoApplication application;
   platform::NotificationCenter notifications;
 };
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/application.h"
+#include "platform/panels.h"
+
+namespace platform {
+
+/// The application where nothing is shown: nothing can be typed, and the caller ends it.
+class NoApplication : public Application {
+ public:
+  void terminate() override {}
+  void exitNow() override {}
+  void makeFirstResponder(TextField& /*field*/) override {}
+};
+
+/// The panels where nothing is shown: nobody chooses anything.
+class NoPanels : public Panels {
+ public:
+  std::vector<Location> runModal(const OpenPanel& /*panel*/) override { return {}; }
+  void begin(const OpenPanel& /*panel*/, Chosen /*completion*/) override {}
+  void beginSheet(const OpenPanel& /*panel*/, Chosen /*completion*/) override {}
+  void beginSheet(const SavePanel& /*panel*/, Chosen /*completion*/) override {}
+};
+
+}  // namespace platform
