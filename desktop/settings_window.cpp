@@ -4,9 +4,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMessageBox>
-#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -19,27 +17,12 @@
 #include "desktop/agreement_sheet.h"
 #include "desktop/change_marks.h"
 #include "desktop/create_sheet.h"
-#include "desktop/find_field.h"
-#include "desktop/help_line.h"
 #include "desktop/pages.h"
 #include "desktop/preferences_window.h"
 #include "desktop/status_line.h"
 #include "desktop/texts.h"
 
 namespace desktop {
-
-namespace {
-
-// Without the line at its foot, which would end where the search field begins.
-class MenuBar : public QMenuBar {
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QMenuBar::paintEvent(event);
-    QPainter(this).fillRect(0, height() - 2, width(), 2, palette().window());
-  }
-};
-
-}  // namespace
 
 SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
                                Edits& edits)
@@ -204,7 +187,7 @@ void SettingsWindow::showStart(QPushButton* button) {
       enabled ? tr("Writes the preferences file and starts Quillon.")
               : tr("Start is disabled: choose where Quillon is in Edit > Preferences.");
   button->setEnabled(enabled);
-  start_->setEnabled(enabled);
+  menus_->setStartEnabled(enabled);
   describe(button, controller_.startQuil, help);
 }
 
@@ -214,7 +197,10 @@ QWidget* SettingsWindow::topRow() {
   auto* const layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(buildMenus(), 0, Qt::AlignVCenter);
+  menus_ = new Menus(
+      controller_, controls_,
+      {[this] { openPreferences(); }, [this] { openAgreement(); }, [this] { tellAbout(); }});
+  layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
   find_ = new FindField(
       places_,
@@ -225,51 +211,6 @@ QWidget* SettingsWindow::topRow() {
   layout->addSpacing(style()->pixelMetric(QStyle::PM_LayoutRightMargin));
   help_->follow(row);
   return row;
-}
-
-QMenuBar* SettingsWindow::buildMenus() {
-  auto* const bar = new MenuBar;
-  const auto add = [this](QMenu* menu, const QString& text, const QKeySequence& keys, auto action) {
-    auto* const entry = new QAction(text, menu);
-    entry->setShortcut(keys);
-    connect(entry, &QAction::triggered, this, action);
-    menu->addAction(entry);
-    return entry;
-  };
-  const auto addButton = [&](QMenu* menu, platform::Button& button, const QString& text,
-                             const QKeySequence& keys) {
-    return add(menu, text, keys, [this, &button] {
-      controls_.edits().endEditing();
-      button.sendAction();
-    });
-  };
-  volumes::VolumeTable& volumes = controller_.volumes;
-
-  QMenu* const file = bar->addMenu(tr("&File"));
-  addButton(file, controller_.savePrefs, tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
-  start_ =
-      addButton(file, controller_.startQuil, tr("S&tart"), QKeySequence(Qt::CTRL | Qt::Key_Return));
-  file->addSeparator();
-  addButton(file, controller_.bitCreate, tr("&New Blank Image…"),
-            QKeySequence(Qt::CTRL | Qt::Key_N));
-  addButton(file, volumes.browseFile, tr("&Add Volume…"), QKeySequence(Qt::CTRL | Qt::Key_O));
-  file->addSeparator();
-  addButton(file, controller_.isQuit, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
-
-  QMenu* const edit = bar->addMenu(tr("&Edit"));
-  add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
-      [this] { openPreferences(); });
-
-  QMenu* const presets = bar->addMenu(tr("&Presets"));
-  presets->setObjectName(QLatin1String("presetsMenu"));
-  for (platform::Button& item : controller_.presets.presetsMenu) {
-    presets->addAction(controls_.menuEntry(item, shown(item.title()), presets));
-  }
-
-  QMenu* const help = bar->addMenu(tr("&Help"));
-  add(help, tr("&Beta Agreement…"), {}, [this] { openAgreement(); });
-  add(help, tr("&About Quillon Settings"), {}, [this] { tellAbout(); });
-  return bar;
 }
 
 void SettingsWindow::buildShortcuts() {

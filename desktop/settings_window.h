@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QMenuBar>
 #include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -12,6 +11,7 @@
 #include "desktop/controls.h"
 #include "desktop/find_field.h"
 #include "desktop/help_line.h"
+#include "desktop/menus.h"
 #include "desktop/pages.h"
 #include "desktop/setting_widgets.h"
 #include "editor/view_controller.h"
@@ -42,7 +42,6 @@ class SettingsWindow : public QMainWindow {
   void addPages();
   void fillPage(QScrollArea* area, PageMaker make);
   [[nodiscard]] QWidget* topRow();
-  [[nodiscard]] QMenuBar* buildMenus();
   void buildShortcuts();
   [[nodiscard]] QWidget* readErrorLine();
   [[nodiscard]] QLayout* fileRow();
@@ -62,9 +61,9 @@ class SettingsWindow : public QMainWindow {
   platform::Window delegate_;
   QTabWidget* tabs_;
   HelpLine* help_;
+  Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
   std::vector<std::pair<QScrollArea*, PageMaker>> makers_;  // of the pages that are still to come
-  QAction* start_ = nullptr;
   QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;
   SettingWidgets places_;

@@ -623,6 +623,57 @@
     </message>
 </context>
 <context>
+    <name>desktop::Menus</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Presets</source>
+        <translation>&amp;Vorgaben</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>S&amp;tart</source>
+        <translation>S&amp;tarten</translation>
+    </message>
+    <message>
+        <source>&amp;New Blank Image…</source>
+        <translation>Neues &amp;leeres Abbild …</translation>
+    </message>
+    <message>
+        <source>&amp;Add Volume…</source>
+        <translation>Datenträger &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Bee&amp;nden</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Programmeinstellungen …</translation>
+    </message>
+    <message>
+        <source>&amp;Beta Agreement…</source>
+        <translation>&amp;Beta-Vereinbarung …</translation>
+    </message>
+    <message>
+        <source>&amp;About Quillon Settings</source>
+        <translation>Über &amp;Quillon-Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>desktop::PreferencesWindow</name>
     <message>
         <source>Quillon Settings Preferences</source>
@@ -770,42 +821,6 @@
     <message>
         <source>Start is disabled: choose where Quillon is in Edit &gt; Preferences.</source>
         <translation>„Starten“ ist deaktiviert: Wählen Sie unter „Bearbeiten &gt; Programmeinstellungen“, wo sich Quillon befindet.</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;New Blank Image…</source>
-        <translation>Neues &amp;leeres Abbild …</translation>
-    </message>
-    <message>
-        <source>&amp;Add Volume…</source>
-        <translation>Datenträger &amp;hinzufügen …</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Preferences…</source>
-        <translation>&amp;Programmeinstellungen …</translation>
-    </message>
-    <message>
-        <source>&amp;Presets</source>
-        <translation>&amp;Vorgaben</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Beta Agreement…</source>
-        <translation>&amp;Beta-Vereinbarung …</translation>
-    </message>
-    <message>
-        <source>&amp;About Quillon Settings</source>
-        <translation>Über &amp;Quillon-Einstellungen</translation>
     </message>
     <message>
         <source>About Quillon Settings</source>

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QMenuBar>
+#include <functional>
+
+#include "desktop/controls.h"
+#include "editor/view_controller.h"
+
+namespace desktop {
+
+/// The menus of the settings window.
+class Menus : public QMenuBar {
+  Q_OBJECT
+
+ public:
+  /// What opens the windows that no control of the core stands for.
+  struct Openers {
+    std::function<void()> preferences;
+    std::function<void()> agreement;
+    std::function<void()> about;
+  };
+
+  Menus(editor::ViewController& controller, Controls& controls, const Openers& openers);
+
+  void setStartEnabled(bool enabled) { start_->setEnabled(enabled); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  using Does = std::function<void()>;
+
+  QAction* add(QMenu* menu, const QString& text, const QKeySequence& keys, const Does& does);
+  QAction* addButton(QMenu* menu, platform::Button& button, const QString& text,
+                     const QKeySequence& keys);
+  void addFile(editor::ViewController& controller);
+  void addPresets(editor::Presets& presets);
+
+  Controls& controls_;
+  QAction* start_ = nullptr;
+};
+
+}  // namespace desktop
