@@ -60,7 +60,7 @@ startDisplay() {
   waitFor 20 [ -s "$scratch/display" ] || fail "Xvfb does not start: $(<"$scratch/xvfb")"
   DISPLAY=:$(<"$scratch/display")
   export DISPLAY QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$scratch
-  export LC_ALL=$locale
+  export LC_ALL=C.UTF-8
   unset WAYLAND_DISPLAY LANGUAGE
 }
 
@@ -88,24 +88,31 @@ takePicture() {
   import -silent -window "$window" "png:$scratch/now.png" 2>/dev/null
 }
 
-# Whether the window shows another tab than before and is no longer changing. The strip with the
-# tabs tells them apart, because nothing blinks there.
+# Whether the picture taken last has been there before since `seen` was emptied: what shows is no
+# longer changing, though a cursor may blink.
+isKnown() {
+  local picture
+  picture=$(identify -format '%#' "$scratch/now.png")
+  [[ " $seen " == *" $picture "* ]] || ! seen+=" $picture"
+}
+
+# Whether the window shows another tab than before. The strip with the tabs tells them apart.
 isNewTab() {
-  local strip last=$picture
+  local strip
   takePicture || return 1
   strip=$(convert "$scratch/now.png" -crop 100%x15%+0+0 +repage -format '%#' info:)
-  picture=$(identify -format '%#' "$scratch/now.png")
-  [ "$picture" = "$last" ] && [[ " $strips " != *" $strip "* ]] && strips+=" $strip"
+  isKnown && [[ " $strips " != *" $strip "* ]] && strips+=" $strip"
 }
 
 pictureTabs() {
   local tab number=0 tabs=(volumes scsi machine display sound-input network jit)
   mkdir -p "$pictures"
-  strips='' picture=''
+  strips=''
   for tab in "${tabs[@]}"; do
     rm -f "$pictures/$tab.png"
     [ "$tab" != scsi ] || "$scsi" || continue
     xdotool key "alt+$((++number))" key Tab  # to the first control, which tells its help
+    seen=''
     waitFor 20 isNewTab || fail "The tab for $tab.png does not show."
     [ "$(identify -format '%k' "$scratch/now.png")" -gt 16 ] || fail "$tab.png is empty."
     mv "$scratch/now.png" "$pictures/$tab.png"
@@ -113,10 +120,8 @@ pictureTabs() {
 }
 
 isStill() {
-  local last=$picture
   import -silent -window root "png:$scratch/now.png"
-  picture=$(identify -format '%#' "$scratch/now.png")
-  [ "$picture" = "$last" ]
+  isKnown
 }
 
 hasOpened() { [ "$(visibleWindows)" != "$window" ]; }
@@ -129,7 +134,7 @@ pictureWindow() {
   waitFor 20 hasFocus || fail "The window does not take the focus back."
   xdotool "$@"
   waitFor 20 hasOpened || fail "Nothing opens for $name.png."
-  picture=''
+  seen=''
   waitFor 20 isStill || fail "$name.png does not come to rest."
   mv "$scratch/now.png" "$pictures/$name.png"
   xdotool key Escape
@@ -151,7 +156,7 @@ setRamAndStart() {
 }
 
 startDisplay
-"$@" &
+LC_ALL=$locale "$@" &
 program=$!
 children+=("$program")
 settings=$(dirname "$1")/../Resources/Prefs.plist
