@@ -30,20 +30,25 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
   if (!controller.startQuil.isEnabled()) {
     return fail("Start is disabled; choose where Quillon is in the preferences");
   }
-  if (!controller.preferences.readError().empty()) {
-    // Nobody has seen that saving would put defaults in the place of what they had.
-    workspace.launchApplication(sharedVar::pathToQuil);
-    return fail("could not read the preferences file, which is left as it is: " +
-                controller.preferences.readError());
-  }
-  const editor::StartResult result = controller.saveAndLaunch();
+  const std::string unread = controller.preferences.readError();
+  // Saving would put defaults in the place of what is in the file, with nobody seeing it.
+  const auto result =
+      unread.empty()
+          ? controller.saveAndLaunch()
+          : editor::StartResult{false, workspace.launchApplication(sharedVar::pathToQuil)};
   if (result.saved && result.launched) {
     return 0;
   }
-  return fail(result.launched ? "could not save the preferences file"
-              : result.saved
-                  ? "could not start " + sharedVar::pathToQuil
-                  : "could not save the preferences file, nor start " + sharedVar::pathToQuil);
+  std::string reason;
+  if (!unread.empty()) {
+    reason = "could not read the preferences file, which is left as it is (" + unread + ")";
+  } else if (!result.saved) {
+    reason = "could not save the preferences file";
+  }
+  if (!result.launched) {
+    reason += (reason.empty() ? "could not start " : ", nor start ") + sharedVar::pathToQuil;
+  }
+  return fail(reason);
 }
 
 }  // namespace app

@@ -13,7 +13,8 @@ QString oneLine(QString text) {
   while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) {
     text.chop(1);
   }
-  return text.replace(QLatin1Char('\n'), QLatin1Char(' '))
+  return text.replace(QLatin1String("\r\n"), QLatin1String(" "))
+      .replace(QLatin1Char('\n'), QLatin1Char(' '))
       .replace(QLatin1Char('\r'), QLatin1Char(' '));
 }
 

@@ -16,11 +16,8 @@ QString keyWord(const document::KeyRow& row) { return shown(std::string(row.text
 
 // Of three parts, each shown by itself.
 QString shownScreen(const editor::ScreenSetting& screen) {
-  const QStringList parts = shown(screen.shownDefault()).split(QLatin1Char('/'));
-  const bool window = parts.value(0) == QLatin1String("win");
-  return tr("%1, %2 × %3")
-      .arg(translatedItem(screen.screenType.items().at(window ? 0 : 1)), parts.value(1),
-           parts.value(2));
+  const auto [type, width, height] = screen.shownDefaultParts();
+  return tr("%1, %2 × %3").arg(translatedItem(type), shown(width), shown(height));
 }
 
 QString shownDefault(const editor::Setting& setting) {

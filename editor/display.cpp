@@ -11,6 +11,7 @@ namespace editor {
 namespace {
 
 // The largest size there is: a word for people, a number in the file.
+constexpr std::string_view windowType = "win";
 constexpr std::string_view maximumWord = "Maximum";
 constexpr std::string_view maximumValue = "0";
 constexpr std::size_t maximumIndex = 4;
@@ -70,7 +71,7 @@ void ScreenSetting::showValue() {
 }
 
 void ScreenSetting::showParts() {
-  if (screensep_[type] == "win") {
+  if (screensep_[type] == windowType) {
     screenType.selectItem(0);
   } else {
     screensep_[type] = "dga";
@@ -81,9 +82,10 @@ void ScreenSetting::showParts() {
 }
 
 // Parts that the value lacks come from the default; more than three are dropped.
-void ScreenSetting::split() {
-  for (std::string_view rest : {row().defaultValue, std::string_view(value())}) {
-    for (std::string& part : screensep_) {
+ScreenSetting::Parts ScreenSetting::partsOf(std::string_view value) const {
+  Parts parts;
+  for (std::string_view rest : {row().defaultValue, value}) {
+    for (std::string& part : parts) {
       const std::size_t end = rest.find('/');
       part = rest.substr(0, end);
       if (end == rest.npos) {
@@ -92,6 +94,13 @@ void ScreenSetting::split() {
       rest.remove_prefix(end + 1);
     }
   }
+  return parts;
+}
+
+ScreenSetting::Parts ScreenSetting::shownDefaultParts() const {
+  Parts parts = partsOf(row().defaultValue);
+  parts[type] = screenType.items().at(parts[type] == windowType ? 0 : 1);
+  return parts;
 }
 
 void ScreenSetting::showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
@@ -109,7 +118,7 @@ void ScreenSetting::showSize(Part part, platform::ComboBox& box, std::vector<std
 void ScreenSetting::videoType() {
   const std::size_t index = screenType.indexOfSelectedItem().value_or(0);
   print(std::to_string(index));
-  screensep_[type] = index == 0 ? "win" : "dga";
+  screensep_[type] = index == 0 ? windowType : "dga";
   print(screensep_[type]);
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "editor/shapes.h"
@@ -23,6 +24,11 @@ class ScreenSetting : public Setting {
 
   [[nodiscard]] std::string valueToSave() const override;
 
+  using Parts = std::array<std::string, 3>;
+
+  /// The default as the three controls show it.
+  [[nodiscard]] Parts shownDefaultParts() const;
+
  protected:
   void fill() override;
   void showValue() override;
@@ -30,7 +36,8 @@ class ScreenSetting : public Setting {
  private:
   enum Part : std::size_t { type, width, height };
 
-  void split();
+  [[nodiscard]] Parts partsOf(std::string_view value) const;
+  void split() { screensep_ = partsOf(value()); }
   void videoType();
   void winWidth() { editSize(width, screenWidth, screenhoriz_); }
   void winHeight() { editSize(height, screenHeight, screenvert_); }
@@ -39,7 +46,7 @@ class ScreenSetting : public Setting {
   void showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
   void editSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
 
-  std::array<std::string, 3> screensep_;
+  Parts screensep_;
   std::vector<std::string> screenhoriz_;
   std::vector<std::string> screenvert_;
 };

@@ -1,3 +1,5 @@
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTableView>
 #include <QTimer>
 #include <sstream>
@@ -87,6 +89,18 @@ TEST_F(Volumes, KeysAndClicks) {
   }
   key(Qt::Key_S, control);
   EXPECT_TRUE(file().starts_with("disk /C\ndisk /E\nextfs "));
+}
+
+TEST_F(Volumes, RowsOfAnotherWindowAreRefused) {
+  openDisks("ABC");
+  QMimeData data;
+  data.setData(table->model()->mimeTypes().constFirst(), "0\n");
+  const QPoint end(5, placeOf(2).bottom() - 1);
+  const auto send = [&](auto event) { QApplication::sendEvent(table->viewport(), &event); };
+  send(QDragEnterEvent(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
+  send(QDragMoveEvent(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
+  send(QDropEvent(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
+  EXPECT_EQ(order(), "ABC");
 }
 
 TEST_F(Volumes, RowsAreDraggedBetweenRows) {
