@@ -1,4 +1,4 @@
-# The window: the room desktop/, the program and its bundle.
+# The window: the room desktop/, the program on top of all rooms, and its bundle.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets LinguistTools)
 
 add_room(desktop PUBLIC editor app volumes document platform Qt6::Widgets)
@@ -6,7 +6,8 @@ set_target_properties(desktop PROPERTIES AUTOMOC ON)
 
 set(bundle ${CMAKE_BINARY_DIR}/QuillonSettings.app)
 set(contents ${bundle}/Contents)
-add_executable(quillon-settings app/main.cpp app/start_command.cpp)
+file(GLOB sources CONFIGURE_DEPENDS program/*.cpp)
+add_executable(quillon-settings ${sources})
 target_link_libraries(quillon-settings PRIVATE desktop)
 target_compile_definitions(quillon-settings PRIVATE QUILLON_VERSION="${PROJECT_VERSION}")
 set_target_properties(quillon-settings PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${contents}/MacOS)

@@ -18,7 +18,7 @@ void Application::exitNow() { ::_exit(0); }
 void Application::makeFirstResponder(platform::TextField& field) {
   edits.endEditing();
   for (const QWidget* const window : QApplication::topLevelWidgets()) {
-    if (auto* const widget = window->findChild<QWidget*>(shown(field.name()))) {
+    if (auto* const widget = window->findChild<QWidget*>(toQString(field.name()))) {
       const QPointer<QWidget> before = QApplication::focusWidget();
       widget->setFocus(Qt::OtherFocusReason);
       // A save disables the field again at once. Whoever saves while typing goes on typing there.

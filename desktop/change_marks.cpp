@@ -17,11 +17,11 @@ void mark(QWidget* label, bool isChanged) {
 
 }  // namespace
 
-ChangeMarks::ChangeMarks(const editor::ViewController& controller, const SettingWidgets& places,
-                         QWidget& window)
+ChangeMarks::ChangeMarks(const editor::ViewController& controller,
+                         const SettingWidgets& settingWidgets, QWidget& window)
     : QObject(&window),
       controller_(controller),
-      places_(places),
+      settingWidgets_(settingWidgets),
       window_(window),
       volumesLabel_(window.findChild<QWidget*>(QLatin1String("volumesLabel"))),
       readError_(window.findChild<QWidget*>(QLatin1String("readError"))) {
@@ -34,7 +34,7 @@ ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Setting
 
 void ChangeMarks::update() {
   const auto changed = controller_.changedKeys();
-  for (const SettingWidget& place : places_) {
+  for (const SettingWidget& place : settingWidgets_) {
     // Some controls show more than one key.
     const auto& control = document::rowOf(place.setting->key()).control;
     mark(place.label, std::any_of(changed.begin(), changed.end(), [&](document::Key key) {

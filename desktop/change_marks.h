@@ -16,14 +16,14 @@ class ChangeMarks : public QObject {
 
  public:
   /// `window` has the page with the volumes already.
-  ChangeMarks(const editor::ViewController& controller, const SettingWidgets& places,
+  ChangeMarks(const editor::ViewController& controller, const SettingWidgets& settingWidgets,
               QWidget& window);
 
  private:
   void update();
 
   const editor::ViewController& controller_;
-  const SettingWidgets& places_;
+  const SettingWidgets& settingWidgets_;
   QWidget& window_;
   QWidget* volumesLabel_;
   QWidget* readError_;  // there only when the file could not be read

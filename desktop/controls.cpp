@@ -54,7 +54,7 @@ void attach(platform::Control& control, Widget* widget, Show show) {
 }  // namespace
 
 void describe(QWidget* widget, const platform::Control& control, const QString& help) {
-  widget->setObjectName(shown(control.name()));
+  widget->setObjectName(toQString(control.name()));
   widget->setToolTip(help);
   widget->setWhatsThis(help);
   widget->setAccessibleDescription(help);
@@ -76,7 +76,7 @@ QPushButton* Controls::pushButton(platform::Button& control, const QString& text
   attach(control, button, [button, &control] {
     button->setEnabled(control.isEnabled());
     if (!control.title().empty()) {
-      button->setText(shown(control.title()));
+      button->setText(toQString(control.title()));
     }
   });
   QObject::connect(button, &QPushButton::clicked, [this, button, &control] {
@@ -116,7 +116,7 @@ QRadioButton* Controls::radioButton(platform::Button& control, const QString& te
 
 QAction* Controls::menuEntry(platform::Button& control, const QString& text, QObject* parent) {
   auto* const entry = new QAction(text, parent);
-  entry->setObjectName(shown(control.name()));
+  entry->setObjectName(toQString(control.name()));
   entry->setCheckable(true);
   control.attach([entry, &control] {
     entry->setEnabled(control.isEnabled());
@@ -134,14 +134,15 @@ QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help)
   auto* const field = new QLineEdit;
   describe(field, control, help);
   field->setMaxLength(std::numeric_limits<int>::max());
-  const auto take = [&control](const QString& text) { control.setStringValue(stored(text)); };
+  const auto store = [&control](const QString& text) { control.setStringValue(fromQString(text)); };
   auto* const pending = new PendingEdit(
-      field, edits_, [take, &control](const QString& text) { control.note([&] { take(text); }); },
-      [take, &control](const QString& text) { control.edit([&] { take(text); }); });
+      field, edits_,
+      [store, &control](const QString& text) { control.setFromView([&] { store(text); }); },
+      [store, &control](const QString& text) { control.edit([&] { store(text); }); });
   attach(control, field, [field, pending, &control] {
     field->setEnabled(control.isEnabled());
     field->setReadOnly(!control.isEditable());
-    const QString text = shown(control.stringValue());
+    const QString text = toQString(control.stringValue());
     if (field->text() != text) {
       field->setText(text);
     }
@@ -166,20 +167,20 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
   const auto show = [box, &control] {
     const QSignalBlocker quiet(box);
     box->setEnabled(control.isEnabled());
-    showItems(box, control.items(), shown);
-    const QString text = shown(control.stringValue());
+    showItems(box, control.items(), toQString);
+    const QString text = toQString(control.stringValue());
     const auto selected = control.indexOfSelectedItem();
     // The box looks for an entry with the text of the field when the focus leaves: it is to find
     // that the right one is selected already.
     box->setCurrentIndex(selected ? static_cast<int>(*selected) : box->findText(text));
     box->setEditText(text);
   };
-  const auto take = [&control](const QString& text) { control.enterText(stored(text)); };
+  const auto store = [&control](const QString& text) { control.enterText(fromQString(text)); };
   auto* const pending = new PendingEdit(
       box->lineEdit(), edits_,
-      [take, &control](const QString& text) { control.note([&] { take(text); }); },
-      [take, show, &control](const QString& text) {
-        control.edit([&] { take(text); });
+      [store, &control](const QString& text) { control.setFromView([&] { store(text); }); },
+      [store, show, &control](const QString& text) {
+        control.edit([&] { store(text); });
         show();
       });
   attach(control, box, [show, pending] {
@@ -230,7 +231,7 @@ QLabel* Controls::statusLine(platform::TextField& control) {
   auto* const line = new StatusLine;
   describe(line, control, {});
   attach(control, line,
-         [line, &control] { line->show(shown(control.stringValue()), control.textColor()); });
+         [line, &control] { line->show(toQString(control.stringValue()), control.textColor()); });
   return line;
 }
 

@@ -29,7 +29,7 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   size->setPlaceholderText(QLatin1String("100"));
   form->addRow(tr("&Size (MB):"), size);
   auto* const place =
-      new QLabel(shown(platform::withExistingFolder(app::sharedVar::pathToQuilRoot)));
+      new QLabel(toQString(platform::withExistingFolder(app::sharedVar::pathToQuilRoot)));
   place->setWordWrap(true);
   place->setAlignment(leadingSide() | Qt::AlignVCenter);
   form->addRow(tr("Folder:"), place);

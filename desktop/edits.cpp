@@ -30,20 +30,21 @@ void Edits::endEditing() {
   }
 }
 
-PendingEdit::PendingEdit(QLineEdit* field, Edits& edits, Taker note, Taker commit)
+PendingEdit::PendingEdit(QLineEdit* field, Edits& edits, TextCallback typed, TextCallback commit)
     : QObject(field), field_(field), commit_(std::move(commit)), settled_(field->text()) {
   edits.add(this);
   // Inside an editable box it is the box that has the focus.
   QWidget* const focused = field->focusProxy() != nullptr ? field->focusProxy() : field;
   focused->installEventFilter(this);
-  connect(field, &QLineEdit::textEdited, this, [this, note = std::move(note)](const QString& text) {
-    text_ = oneLine(text);
-    typed_ = true;
-    if (text_ != text) {
-      field_->setText(text_);
-    }
-    note(text_);
-  });
+  connect(field, &QLineEdit::textEdited, this,
+          [this, typed = std::move(typed)](const QString& text) {
+            text_ = oneLine(text);
+            typed_ = true;
+            if (text_ != text) {
+              field_->setText(text_);
+            }
+            typed(text_);
+          });
   connect(field, &QLineEdit::returnPressed, this, &PendingEdit::returnPressed);
 }
 

@@ -30,10 +30,10 @@ class PendingEdit : public QObject {
   Q_OBJECT
 
  public:
-  using Taker = std::function<void(const QString&)>;
+  using TextCallback = std::function<void(const QString&)>;
 
-  /// `note` gets the text while it is being typed, `commit` when that has ended.
-  PendingEdit(QLineEdit* field, Edits& edits, Taker note, Taker commit);
+  /// `typed` gets the text while it is being typed, `commit` when that has ended.
+  PendingEdit(QLineEdit* field, Edits& edits, TextCallback typed, TextCallback commit);
 
   /// What the field holds now is what the state says.
   void settle();
@@ -51,7 +51,7 @@ class PendingEdit : public QObject {
   void returnPressed();
 
   QLineEdit* field_;
-  Taker commit_;
+  TextCallback commit_;
   QString settled_;
   QString text_;  // as typed: a completion that was only looked at does not count
   bool typed_ = false;

@@ -26,10 +26,10 @@ class SettingCompleter : public QCompleter {
 
 }  // namespace
 
-FindField::FindField(const SettingWidgets& places,
+FindField::FindField(const SettingWidgets& settingWidgets,
                      std::function<QString(const SettingWidget&)> tabOf,
                      std::function<void(const SettingWidget&)> go)
-    : places_(places), tabOf_(std::move(tabOf)), go_(std::move(go)) {
+    : settingWidgets_(settingWidgets), tabOf_(std::move(tabOf)), go_(std::move(go)) {
   setObjectName(QLatin1String("findSetting"));
   setPlaceholderText(tr("Find a setting (Ctrl+F)"));
   setAccessibleName(tr("Find a setting"));
@@ -87,8 +87,8 @@ void FindField::keyPressEvent(QKeyEvent* event) {
 void FindField::buildList() {
   auto* const model = new QStandardItemModel(this);
   int width = 0;
-  for (std::size_t place = 0; place < places_.size(); ++place) {
-    const SettingWidget& entry = places_[place];
+  for (std::size_t place = 0; place < settingWidgets_.size(); ++place) {
+    const SettingWidget& entry = settingWidgets_[place];
     auto* const item = new QStandardItem(tr("%1 — %2").arg(entry.title, tabOf_(entry)));
     item->setData(entry.title + QLatin1Char('\n') + entry.widget->whatsThis(), searchedRole);
     item->setData(static_cast<qulonglong>(place), placeRole);
@@ -107,7 +107,7 @@ void FindField::buildList() {
 
 void FindField::goTo(const QModelIndex& hit) {
   if (hit.isValid()) {
-    const SettingWidget& place = places_.at(hit.data(placeRole).toULongLong());
+    const SettingWidget& place = settingWidgets_.at(hit.data(placeRole).toULongLong());
     // After the completer has put the name of the hit here.
     QMetaObject::invokeMethod(this, &QLineEdit::clear, Qt::QueuedConnection);
     go_(place);

@@ -16,7 +16,8 @@ class FindField : public QLineEdit {
 
  public:
   /// `tabOf` names the tab of a setting; `go` shows one and gives it the focus.
-  FindField(const SettingWidgets& places, std::function<QString(const SettingWidget&)> tabOf,
+  FindField(const SettingWidgets& settingWidgets,
+            std::function<QString(const SettingWidget&)> tabOf,
             std::function<void(const SettingWidget&)> go);
 
  protected:
@@ -29,7 +30,7 @@ class FindField : public QLineEdit {
   void buildList();
   void goTo(const QModelIndex& hit);
 
-  const SettingWidgets& places_;
+  const SettingWidgets& settingWidgets_;
   std::function<QString(const SettingWidget&)> tabOf_;
   std::function<void(const SettingWidget&)> go_;
 };

@@ -17,10 +17,11 @@ Menus::Menus(editor::ViewController& controller, Controls& controls, const Opene
   add(help, tr("&About Quillon Settings"), {}, openers.about);
 }
 
-QAction* Menus::add(QMenu* menu, const QString& text, const QKeySequence& keys, const Does& does) {
+QAction* Menus::add(QMenu* menu, const QString& text, const QKeySequence& keys,
+                    const Callback& callback) {
   auto* const entry = new QAction(text, menu);
   entry->setShortcut(keys);
-  connect(entry, &QAction::triggered, this, does);
+  connect(entry, &QAction::triggered, this, callback);
   menu->addAction(entry);
   return entry;
 }
@@ -51,7 +52,7 @@ void Menus::addPresets(editor::Presets& presets) {
   QMenu* const menu = addMenu(tr("&Presets"));
   menu->setObjectName(QLatin1String("presetsMenu"));
   for (platform::Button& item : presets.presetsMenu) {
-    menu->addAction(controls_.menuEntry(item, shown(item.title()), menu));
+    menu->addAction(controls_.menuEntry(item, toQString(item.title()), menu));
   }
 }
 

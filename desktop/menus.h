@@ -28,9 +28,10 @@ class Menus : public QMenuBar {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  using Does = std::function<void()>;
+  using Callback = std::function<void()>;
 
-  QAction* add(QMenu* menu, const QString& text, const QKeySequence& keys, const Does& does);
+  QAction* add(QMenu* menu, const QString& text, const QKeySequence& keys,
+               const Callback& callback);
   QAction* addButton(QMenu* menu, platform::Button& button, const QString& text,
                      const QKeySequence& keys);
   void addFile(editor::ViewController& controller);

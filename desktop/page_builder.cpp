@@ -7,14 +7,14 @@
 
 namespace desktop {
 
-void PageBuilder::note(editor::Setting& setting, const QString& label, QWidget* labelWidget,
-                       QWidget* widget) {
+void PageBuilder::addSettingWidget(editor::Setting& setting, const QString& label,
+                                   QWidget* labelWidget, QWidget* widget) {
   const std::string action(document::rowOf(setting.key()).action);
   widget->setProperty("action", QString::fromStdString(action));
   labelWidget->setToolTip(widget->toolTip());
   labelWidget->setWhatsThis(widget->whatsThis());
-  places_.push_back({&setting, plainText(label), labelWidget, widget});
-  offerReset(places_.back());
+  settingWidgets_.push_back({&setting, plainText(label), labelWidget, widget});
+  offerReset(settingWidgets_.back());
 }
 
 void PageBuilder::heading(const QString& text) {
@@ -35,7 +35,7 @@ void PageBuilder::row(editor::Setting& setting, const QString& label, QWidget* w
       named->setAccessibleDescription(widget->accessibleDescription());
     }
   }
-  note(setting, label, form_->labelForField(widget), widget);
+  addSettingWidget(setting, label, form_->labelForField(widget), widget);
 }
 
 void PageBuilder::field(editor::TextFieldSetting& setting, const QString& label, QWidget* button) {
@@ -47,7 +47,7 @@ void PageBuilder::field(editor::TextFieldSetting& setting, const QString& label,
   title->setBuddy(widget);
   form_->addRow(title, line);
   widget->setAccessibleName(plainText(label));
-  note(setting, label, title, widget);
+  addSettingWidget(setting, label, title, widget);
 }
 
 void PageBuilder::field(editor::TextFieldSetting& setting, const QString& label) {
@@ -67,7 +67,7 @@ QComboBox* PageBuilder::combo(editor::ComboBoxSetting& setting, const QString& l
 void PageBuilder::check(editor::CheckBoxSetting& setting, const QString& text) {
   QWidget* const box = controls_.checkBox(setting.box, text, helpOf(setting));
   form_->addRow(QString(), box);
-  note(setting, text, box, box);
+  addSettingWidget(setting, text, box, box);
 }
 
 void PageBuilder::steps(editor::StepperSetting& setting, const QString& label) {

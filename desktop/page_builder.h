@@ -15,8 +15,8 @@ namespace desktop {
 /// leads to its widget.
 class PageBuilder {
  public:
-  PageBuilder(Controls& controls, SettingWidgets& places)
-      : controls_(controls), places_(places), form_(new QFormLayout) {
+  PageBuilder(Controls& controls, SettingWidgets& settingWidgets)
+      : controls_(controls), settingWidgets_(settingWidgets), form_(new QFormLayout) {
     form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
   }
 
@@ -38,10 +38,11 @@ class PageBuilder {
   [[nodiscard]] QWidget* page() const;
 
  private:
-  void note(editor::Setting& setting, const QString& label, QWidget* labelWidget, QWidget* widget);
+  void addSettingWidget(editor::Setting& setting, const QString& label, QWidget* labelWidget,
+                        QWidget* widget);
 
   Controls& controls_;
-  SettingWidgets& places_;
+  SettingWidgets& settingWidgets_;
   QFormLayout* form_;
 };
 

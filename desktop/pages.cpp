@@ -60,7 +60,7 @@ QWidget* volumesPage(const PageContext& context) {
   layout->addWidget(title);
   layout->addWidget(table, 1);
   layout->addLayout(buttons);
-  PageBuilder builder(controls, context.places);
+  PageBuilder builder(controls, context.settingWidgets);
   builder.field(
       shared.unixRootPath, tr("Shared fol&der:"),
       controls.pushButton(shared.unixRoot, tr("Ch&oose…"), tr("Chooses the shared folder.")));
@@ -81,7 +81,7 @@ QWidget* scsiPage(const PageContext& context) {
 
 QWidget* machinePage(const PageContext& context) {
   editor::MachineGroup& machine = context.controller.machine;
-  PageBuilder page(context.controls, context.places);
+  PageBuilder page(context.controls, context.settingWidgets);
   page.field(machine.romFile, tr("&ROM file:"),
              context.controls.pushButton(machine.browseROM.button, tr("Bro&wse…"),
                                          tr("Chooses the ROM file.")));
@@ -96,7 +96,7 @@ QWidget* machinePage(const PageContext& context) {
 QWidget* displayPage(const PageContext& context) {
   editor::ScreenSetting& screen = context.controller.display.screen;
   const QString help = helpOf(screen);
-  PageBuilder page(context.controls, context.places);
+  PageBuilder page(context.controls, context.settingWidgets);
   page.row(screen, tr("Screen &mode:"), context.controls.popUpButton(screen.screenType, help));
   page.row(screen, tr("&Width:"), context.controls.comboBox(screen.screenWidth, help));
   page.row(screen, tr("Hei&ght:"), context.controls.comboBox(screen.screenHeight, help));
@@ -106,7 +106,7 @@ QWidget* displayPage(const PageContext& context) {
 
 QWidget* soundPage(const PageContext& context) {
   editor::InputGroup& input = context.controller.input;
-  PageBuilder page(context.controls, context.places);
+  PageBuilder page(context.controls, context.settingWidgets);
   page.heading(tr("Sound"));
   page.check(input.disableSound, tr("&Disable sound"));
   page.field(input.audioOut, tr("&Output device:"));
@@ -124,7 +124,7 @@ QWidget* soundPage(const PageContext& context) {
 
 QWidget* networkPage(const PageContext& context) {
   editor::NetworkGroup& network = context.controller.network;
-  PageBuilder page(context.controls, context.places);
+  PageBuilder page(context.controls, context.settingWidgets);
   for (QComboBox* const box : {page.combo(network.modemPort, tr("&Modem port:")),
                                page.combo(network.printerPort, tr("P&rinter port:")),
                                page.combo(network.etherPort, tr("Network &device:"))}) {
@@ -137,7 +137,7 @@ QWidget* networkPage(const PageContext& context) {
 
 QWidget* jitPage(const PageContext& context) {
   editor::JitGroup& jit = context.controller.jit;
-  PageBuilder page(context.controls, context.places);
+  PageBuilder page(context.controls, context.settingWidgets);
   page.heading(tr("Just-in-time compiler"));
   page.check(jit.enableJIT, tr("Enable the &JIT compiler"));
   page.check(jit.compileFPU, tr("Compile floating-point instr&uctions"));

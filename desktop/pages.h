@@ -11,7 +11,7 @@ namespace desktop {
 /// What a page is made of.
 struct PageContext {
   Controls& controls;
-  SettingWidgets& places;  // takes in where each setting went
+  SettingWidgets& settingWidgets;  // takes in where each setting went
   editor::ViewController& controller;
   const platform::Bundle& bundle;  // has the pictures
 };

@@ -37,7 +37,7 @@ std::vector<Location> locationsOf(const QFileDialog& dialog) {
     if (file.contains(QLatin1Char('\n'))) {
       tellLineBreak(dialog, file);
     } else {
-      locations.push_back(Location::fromPath(stored(file)));
+      locations.push_back(Location::fromPath(fromQString(file)));
     }
   }
   return locations;
@@ -49,7 +49,7 @@ void setTypes(QFileDialog& dialog, const std::vector<std::string>& types) {
   }
   QStringList patterns;
   for (const std::string& type : types) {
-    patterns.append(QLatin1String("*.") + shown(type));
+    patterns.append(QLatin1String("*.") + toQString(type));
   }
   dialog.setNameFilter(tr("Disk images") + QLatin1String(" (") + patterns.join(QLatin1Char(' ')) +
                        QLatin1Char(')'));
@@ -87,7 +87,7 @@ class AnyDialog : public QFileDialog {
 
 template <typename Dialog = QFileDialog>
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
-  auto dialog = std::make_unique<Dialog>(window, shown(title));
+  auto dialog = std::make_unique<Dialog>(window, toQString(title));
   // Qt's own dialog matches endings without regard to case; those of some desktops do not.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   return dialog;
@@ -110,7 +110,7 @@ std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPan
   }
   setTypes(*dialog, panel.allowedFileTypes);
   if (!panel.directory.empty()) {
-    dialog->setDirectory(shown(panel.directory));
+    dialog->setDirectory(toQString(panel.directory));
   }
   return dialog;
 }
@@ -162,9 +162,9 @@ void Panels::beginSheet(const platform::SavePanel& panel, Chosen completion) {
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
   setTypes(*dialog, panel.allowedFileTypes);
-  dialog->setDefaultSuffix(shown(panel.allowedFileTypes.front()));
-  dialog->selectFile(shown(panel.nameFieldStringValue));
-  auto* const message = new QLabel(shown(panel.message));
+  dialog->setDefaultSuffix(toQString(panel.allowedFileTypes.front()));
+  dialog->selectFile(toQString(panel.nameFieldStringValue));
+  auto* const message = new QLabel(toQString(panel.message));
   message->setObjectName(QLatin1String("bitView"));
   dialog->layout()->addWidget(message);
   desktop::begin(std::move(dialog), Qt::WindowModal, std::move(completion));

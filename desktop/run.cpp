@@ -40,7 +40,8 @@ int run(int& argc, char** argv, const Surroundings& surroundings) {
   makeReadable();
   QTranslator ours;
   QTranslator qts;
-  translate(ours, "quillon-settings", shown(surroundings.bundle.path() + "/Contents/Resources"));
+  translate(ours, "quillon-settings",
+            toQString(surroundings.bundle.path() + "/Contents/Resources"));
   translate(qts, "qtbase", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 
   Application application;

@@ -12,12 +12,12 @@
 namespace desktop {
 namespace {
 
-QString keyWord(const document::KeyRow& row) { return shown(std::string(row.text)).trimmed(); }
+QString keyWord(const document::KeyRow& row) { return toQString(std::string(row.text)).trimmed(); }
 
 // Of three parts, each shown by itself.
 QString shownScreen(const editor::ScreenSetting& screen) {
   const auto [type, width, height] = screen.shownDefaultParts();
-  return tr("%1, %2 × %3").arg(translatedItem(type), shown(width), shown(height));
+  return tr("%1, %2 × %3").arg(translatedItem(type), toQString(width), toQString(height));
 }
 
 QString shownDefault(const editor::Setting& setting) {
@@ -27,7 +27,7 @@ QString shownDefault(const editor::Setting& setting) {
   // Some defaults are words of ours, others are texts for the file.
   const std::string text = setting.shownDefault();
   const QString word = QCoreApplication::translate("Help", text.c_str());
-  return word == shown(text) ? translatedItem(text) : word;
+  return word == toQString(text) ? translatedItem(text) : word;
 }
 
 void showMenu(QWidget* widget, const QPoint& position, editor::Setting& setting) {

@@ -33,7 +33,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
       help_(new HelpLine) {
   setObjectName(QLatin1String("settingsWindow"));
   setWindowTitle(tr("Quillon Settings") + QLatin1String("[*]"));
-  tabs_->setObjectName(shown(controller.tabs.tabViewC.name()));
+  tabs_->setObjectName(toQString(controller.tabs.tabViewC.name()));
   tabs_->setAccessibleName(tr("Settings"));
   guardWheel(tabs_->tabBar());
 
@@ -59,7 +59,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
-  new ChangeMarks(controller, places_, *this);
+  new ChangeMarks(controller, settingWidgets_, *this);
   controller.viewWillAppear(delegate_);
   tabs_->setFocus();
 }
@@ -88,7 +88,7 @@ void SettingsWindow::addPages() {
 }
 
 void SettingsWindow::fillPage(QScrollArea* area, PageMaker make) {
-  QWidget* const page = make({controls_, places_, controller_, host_.bundle});
+  QWidget* const page = make({controls_, settingWidgets_, controller_, host_.bundle});
   area->setWidget(page);
   // What is made later would come behind everything else. Only one page is shown at a time.
   QWidget* before = tabs_->tabBar();
@@ -137,7 +137,7 @@ QWidget* SettingsWindow::readErrorLine() {
   line->setObjectName(QLatin1String("readError"));
   line->show(tr("The preferences file could not be read: %1. What you see are the defaults, and "
                 "saving puts them in the place of what is in the file.")
-                 .arg(shown(controller_.preferences.readError())),
+                 .arg(toQString(controller_.preferences.readError())),
              platform::TextColor::red);
   return line;
 }
@@ -149,7 +149,7 @@ QLayout* SettingsWindow::fileRow() {
          "first save.");
   auto* const field = controls_.lineEdit(controller_.filename_field, help);
   field->setPlaceholderText(controller_.preferences.prefsURL
-                                ? shown(controller_.preferences.prefsURL->path())
+                                ? toQString(controller_.preferences.prefsURL->path())
                                 : QString());
   auto* const label = new QLabel(tr("Preferences fi&le:"));
   label->setBuddy(field);
@@ -203,7 +203,7 @@ QWidget* SettingsWindow::topRow() {
   layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
   find_ = new FindField(
-      places_,
+      settingWidgets_,
       [this](const SettingWidget& place) { return plainText(tabs_->tabText(tabOf(place))); },
       [this](const SettingWidget& place) { goTo(place); });
   layout->addWidget(find_);

@@ -66,7 +66,7 @@ class SettingsWindow : public QMainWindow {
   std::vector<std::pair<QScrollArea*, PageMaker>> makers_;  // of the pages that are still to come
   QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;
-  SettingWidgets places_;
+  SettingWidgets settingWidgets_;
 };
 
 }  // namespace desktop

@@ -15,7 +15,7 @@ StepperBox::StepperBox(platform::Stepper& stepper, platform::TextField& text)
 
 void StepperBox::showState() {
   setEnabled(stepper_.isEnabled());
-  lineEdit()->setText(shown(text_.stringValue()));
+  lineEdit()->setText(toQString(text_.stringValue()));
   update();
 }
 

@@ -7,10 +7,10 @@
 namespace desktop {
 
 /// The bytes of the core as text of the window, and back.
-inline QString shown(const std::string& text) {
+inline QString toQString(const std::string& text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
-inline std::string stored(const QString& text) { return text.toStdString(); }
+inline std::string fromQString(const QString& text) { return text.toStdString(); }
 
 /// A text of the window, outside a class that has a function for that of its own, in the person's
 /// language.

@@ -36,7 +36,7 @@ const platform::TableCell* VolumeModel::cell(const QModelIndex& index) const {
 
 QIcon VolumeModel::image(const std::string& name) const {
   if (icon_.isNull()) {
-    icon_ = QIcon(shown(images_.resource(name)));
+    icon_ = QIcon(toQString(images_.resource(name)));
   }
   return icon_;
 }
@@ -54,7 +54,7 @@ QVariant VolumeModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DecorationRole) {
     return shownCell->image.empty() ? QVariant() : QVariant(image(shownCell->image));
   }
-  return shown(shownCell->text);
+  return toQString(shownCell->text);
 }
 
 QVariant VolumeModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -78,7 +78,7 @@ Qt::ItemFlags VolumeModel::flags(const QModelIndex& index) const {
 QStringList VolumeModel::mimeTypes() const {
   QStringList types;
   for (const std::string& type : table_.draggedTypes()) {
-    types.append(shown(type));
+    types.append(toQString(type));
   }
   return types;
 }

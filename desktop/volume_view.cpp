@@ -39,7 +39,7 @@ class CellDelegate : public QStyledItemDelegate {
 
 VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images)
     : volumes_(volumes), model_(volumes.tableView, images, this) {
-  setObjectName(shown(volumes.tableView.name()));
+  setObjectName(toQString(volumes.tableView.name()));
   setModel(&model_);
   setItemDelegate(new CellDelegate(this));
   setSelectionBehavior(SelectRows);

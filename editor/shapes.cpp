@@ -47,7 +47,7 @@ void TextFieldSetting::committed() {
   print(value());
 }
 
-void TextFieldSetting::takePath(const std::string& path) {
+void TextFieldSetting::setChosenPath(const std::string& path) {
   setValue(path);
   print(path);
   field.setStringValue(path);
@@ -126,7 +126,7 @@ void FileButton::browse() {
   panel.directory = folderOf(setting_.field.stringValue());
   panels_.begin(panel, [this](const std::vector<platform::Location>& chosen) {
     if (!chosen.empty()) {
-      setting_.takePath(chosen.front().path());
+      setting_.setChosenPath(chosen.front().path());
     }
   });
 }

@@ -40,7 +40,7 @@ class TextFieldSetting : public Setting {
   platform::TextField field;
 
   /// Takes over a path that was chosen in a panel.
-  void takePath(const std::string& path);
+  void setChosenPath(const std::string& path);
 
  protected:
   void fill() override { field.setStringValue(value()); }

@@ -38,18 +38,18 @@ class Control {
   }
   void detach() { show_ = nullptr; }
 
-  /// Notes what the user is doing: `write` puts it into the state, from which it came.
+  /// Puts what the user is doing into the state: the view shows it already and is not told.
   template <typename Write>
-  void note(Write write) {
+  void setFromView(Write write) {
     auto hidden = std::exchange(show_, nullptr);
     write();
     show_ = std::move(hidden);
   }
 
-  /// Does what the user did: it is noted, then the action runs.
+  /// Does what the user did: it goes into the state, then the action runs.
   template <typename Write>
   void edit(Write write) {
-    note(write);
+    setFromView(write);
     sendAction();
   }
 

@@ -31,7 +31,7 @@ class Widgets : public tests::WindowTest {
       line->selectAll();
       QTest::keyClick(line, Qt::Key_Backspace);
       QInputMethodEvent event;
-      event.setCommitString(desktop::shown(text));
+      event.setCommitString(desktop::toQString(text));
       QApplication::sendEvent(line, &event);
       tabs()->setFocus();
     }

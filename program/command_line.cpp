@@ -1,9 +1,9 @@
-#include "app/command_line.h"
+#include "program/command_line.h"
 
 #include <array>
 #include <string_view>
 
-namespace app {
+namespace program {
 namespace {
 
 struct Option {
@@ -49,4 +49,4 @@ std::string usage() {
   return text;
 }
 
-}  // namespace app
+}  // namespace program

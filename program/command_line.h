@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-namespace app {
+namespace program {
 
 /// What the program was asked to do.
 struct CommandLine {
@@ -18,4 +18,4 @@ CommandLine parseCommandLine(int argc, const char* const* argv);
 /// What --help prints.
 std::string usage();
 
-}  // namespace app
+}  // namespace program

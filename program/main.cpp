@@ -7,9 +7,9 @@
 #include <iostream>
 #include <string>
 
-#include "app/command_line.h"
-#include "app/start_command.h"
 #include "desktop/run.h"
+#include "program/command_line.h"
+#include "program/start_command.h"
 
 namespace {
 
@@ -52,16 +52,16 @@ int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
 
-  const app::CommandLine line = app::parseCommandLine(argc, argv);
-  if (line.task == app::CommandLine::Task::refuse) {
-    std::cerr << "quillon-settings: unknown option '" << line.refused << "'\n" << app::usage();
+  const program::CommandLine line = program::parseCommandLine(argc, argv);
+  if (line.task == program::CommandLine::Task::refuse) {
+    std::cerr << "quillon-settings: unknown option '" << line.refused << "'\n" << program::usage();
     return 2;
   }
-  if (line.task == app::CommandLine::Task::help) {
-    std::cout << app::usage() << std::flush;
+  if (line.task == program::CommandLine::Task::help) {
+    std::cout << program::usage() << std::flush;
     return 0;
   }
-  if (line.task == app::CommandLine::Task::version) {
+  if (line.task == program::CommandLine::Task::version) {
     std::cout << "quillon-settings " << QUILLON_VERSION << std::endl;
     return 0;
   }
@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
   const platform::Bundle bundle = platform::Bundle::mainBundle();
   const std::string home = homeDirectory();
   const std::string config = configHome(home);
-  return line.task == app::CommandLine::Task::start
-             ? app::startWithoutWindow(home, config, bundle, output)
+  return line.task == program::CommandLine::Task::start
+             ? program::startWithoutWindow(home, config, bundle, output)
              : desktop::run(argc, argv, {home, config, bundle, output, QUILLON_VERSION});
 }

@@ -1,4 +1,4 @@
-#include "app/start_command.h"
+#include "program/start_command.h"
 
 #include <iostream>
 #include <string>
@@ -8,7 +8,7 @@
 #include "platform/headless.h"
 #include "platform/host.h"
 
-namespace app {
+namespace program {
 namespace {
 
 int fail(const std::string& reason) {
@@ -35,7 +35,7 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
   const auto result =
       unread.empty()
           ? controller.saveAndLaunch()
-          : editor::StartResult{false, workspace.launchApplication(sharedVar::pathToQuil)};
+          : editor::StartResult{false, workspace.launchApplication(app::sharedVar::pathToQuil)};
   if (result.saved && result.launched) {
     return 0;
   }
@@ -46,9 +46,9 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
     reason = "could not save the preferences file";
   }
   if (!result.launched) {
-    reason += (reason.empty() ? "could not start " : ", nor start ") + sharedVar::pathToQuil;
+    reason += (reason.empty() ? "could not start " : ", nor start ") + app::sharedVar::pathToQuil;
   }
   return fail(reason);
 }
 
-}  // namespace app
+}  // namespace program
