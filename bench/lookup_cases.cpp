@@ -44,7 +44,7 @@ void compose(benchmark::State& state) {
   const std::vector<std::string> disks(static_cast<std::size_t>(state.range(0)),
                                        "/home/somebody/images/disk 1.dsk");
   for (auto _ : state) {
-    benchmark::DoNotOptimize(preferences.composed(disks));
+    benchmark::DoNotOptimize(document::Preferences::composed(disks, preferences.prefSet));
   }
 }
 BENCHMARK(compose)->Name("compose the file; disks")->Arg(1)->Arg(1000)->Arg(200000);

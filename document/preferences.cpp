@@ -89,27 +89,29 @@ void Preferences::lookUp(Key key, std::string_view foundLabel) {
   prefSet[indexOf(key)] = std::move(value);
 }
 
-void Preferences::compose(const std::vector<std::string>& disks) {
-  preferences.clear();
-  preferences.reserve(disks.size() + keyCount);
-  std::transform(disks.begin(), disks.end(), std::back_inserter(preferences),
+std::vector<std::string> Preferences::composedLines(
+    const std::vector<std::string>& disks, const std::array<std::string, keyCount>& values) {
+  std::vector<std::string> lines;
+  lines.reserve(disks.size() + keyCount);
+  std::transform(disks.begin(), disks.end(), std::back_inserter(lines),
                  [](const std::string& path) { return "disk " + path; });
   for (const KeyRow& row : keyTable) {
-    newPrefs[indexOf(row.key)] = line(row.key, value(row.key));
-    preferences.push_back(newPrefs[indexOf(row.key)]);
+    lines.push_back(line(row.key, values[indexOf(row.key)]));
   }
+  return lines;
 }
 
-std::string Preferences::composed(const std::vector<std::string>& disks) {
-  compose(disks);
-  return joined(preferences);
+std::string Preferences::composed(const std::vector<std::string>& disks,
+                                  const std::array<std::string, keyCount>& values) {
+  return joined(composedLines(disks, values));
 }
 
 bool Preferences::save(const std::vector<std::string>& disks, std::string_view finalMessage) {
   for (const std::string& path : disks) {
     output_.print(path);
   }
-  compose(disks);
+  preferences = composedLines(disks, prefSet);
+  std::copy(preferences.end() - keyCount, preferences.end(), newPrefs.begin());
   output_.print("pre write prefs test");
   output_.print("newFileOutput test: ", platform::optionalText(prefsURL2));
   const std::string text = joined(preferences);

@@ -44,8 +44,9 @@ class Preferences {
   /// printed; returns whether there was none. `finalMessage` ends the diagnostics.
   bool save(const std::vector<std::string>& disks, std::string_view finalMessage);
 
-  /// What a save would write.
-  [[nodiscard]] std::string composed(const std::vector<std::string>& disks);
+  /// The text that a save of these disks and values would write.
+  [[nodiscard]] static std::string composed(const std::vector<std::string>& disks,
+                                            const std::array<std::string, keyCount>& values);
 
   /// Makes later saves go to the place that a location text names.
   void setLocation(std::string_view text);
@@ -69,7 +70,8 @@ class Preferences {
  private:
   void readFile();
   void createFile();
-  void compose(const std::vector<std::string>& disks);
+  [[nodiscard]] static std::vector<std::string> composedLines(
+      const std::vector<std::string>& disks, const std::array<std::string, keyCount>& values);
 
   platform::Output& output_;
   std::string readError_;

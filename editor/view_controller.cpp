@@ -86,10 +86,20 @@ bool ViewController::save(std::string_view finalMessage) {
   return saved;
 }
 
-void ViewController::rememberSaved() {
+std::array<std::string, document::keyCount> ViewController::valuesToSave() const {
+  std::array<std::string, document::keyCount> values;
   for (const Setting* const setting : settingsInKeyOrder()) {
-    savedValues_.at(document::indexOf(setting->key())) = setting->valueToSave();
+    values.at(document::indexOf(setting->key())) = setting->valueToSave();
   }
+  return values;
+}
+
+std::string ViewController::textToSave() const {
+  return document::Preferences::composed(volumes.volumes().paths(), valuesToSave());
+}
+
+void ViewController::rememberSaved() {
+  savedValues_ = valuesToSave();
   savedVolumes_ = volumes.volumes().volName();
   savedRevision_ = volumes.tableView.revision();
 }

@@ -50,6 +50,9 @@ class ViewController {
   [[nodiscard]] std::vector<Key> changedKeys() const;
   [[nodiscard]] bool volumesChanged() const;
 
+  /// The text that a save would write now.
+  [[nodiscard]] std::string textToSave() const;
+
   /// The settings by index.
   [[nodiscard]] std::array<Setting*, document::keyCount> settingsInKeyOrder() const;
 
@@ -75,6 +78,7 @@ class ViewController {
   void connectActions();
   /// Returns the emulator's location as it stands in the front-end's settings.
   std::string loadFrontEndSettings();
+  [[nodiscard]] std::array<std::string, document::keyCount> valuesToSave() const;
   void rememberSaved();
   bool save(std::string_view finalMessage);
   void startButton();
