@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 
 namespace platform {
 
@@ -20,22 +21,56 @@ Descriptor Descriptor::openRegular(const std::string& path, int flags, std::erro
   Descriptor opened(retried([&] {
     return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, newFileMode);
   }));
-  struct stat status {};
-  if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0) {
+  if (!opened.isOpen()) {
     error = lastError();
     // A pipe without a reader answers as if it were a missing device.
     if (error == std::errc::no_such_device_or_address) {
       error = std::make_error_code(std::errc::operation_not_supported);
     }
-    return Descriptor();
+    return opened;
+  }
+  error = opened.measure();
+  return error ? Descriptor() : std::move(opened);
+}
+
+std::error_code Descriptor::measure() {
+  struct stat status {};
+  if (::fstat(number_, &status) != 0) {
+    return lastError();
   }
   if (!S_ISREG(status.st_mode)) {
-    error = std::make_error_code(S_ISDIR(status.st_mode) ? std::errc::is_a_directory
-                                                         : std::errc::operation_not_supported);
-    return Descriptor();
+    return std::make_error_code(S_ISDIR(status.st_mode) ? std::errc::is_a_directory
+                                                        : std::errc::operation_not_supported);
   }
-  opened.openedSize_ = static_cast<std::size_t>(status.st_size);
-  return opened;
+  size_ = static_cast<std::uintmax_t>(status.st_size);
+  return {};
+}
+
+std::optional<std::string> Descriptor::read(std::size_t count, std::error_code& error) const {
+  std::string content;
+  try {
+    content.resize(count);
+  } catch (const std::bad_alloc&) {
+    error = std::make_error_code(std::errc::not_enough_memory);
+    return std::nullopt;
+  }
+  std::size_t filled = 0;
+  while (filled < count) {
+    const ssize_t got = retried([&] {
+      return ::pread(number_, &content[filled], count - filled, static_cast<off_t>(filled));
+    });
+    if (got < 0) {
+      error = lastError();
+      return std::nullopt;
+    }
+    filled += static_cast<std::size_t>(got);
+    // Asking for more at the known end would be a call for nothing.
+    if (got == 0 || filled == size_) {
+      break;
+    }
+  }
+  content.resize(filled);
+  return content;
 }
 
 std::error_code Descriptor::close() {

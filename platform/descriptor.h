@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -12,10 +14,10 @@ class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
   Descriptor(Descriptor&& other) noexcept
-      : number_(std::exchange(other.number_, -1)), openedSize_(other.openedSize_) {}
+      : number_(std::exchange(other.number_, -1)), size_(other.size_) {}
   Descriptor& operator=(Descriptor&& other) noexcept {
     std::swap(number_, other.number_);
-    openedSize_ = other.openedSize_;
+    size_ = other.size_;
     return *this;
   }
   ~Descriptor() { close(); }
@@ -26,15 +28,20 @@ class Descriptor {
 
   [[nodiscard]] int get() const { return number_; }
   [[nodiscard]] bool isOpen() const { return number_ >= 0; }
-  /// Bytes in the regular file when it was opened.
-  [[nodiscard]] std::size_t openedSize() const { return openedSize_; }
+  /// Bytes in the regular file when it was opened or last measured.
+  [[nodiscard]] std::uintmax_t size() const { return size_; }
+  /// Asks for the size once more.
+  std::error_code measure();
+
+  /// The first `count` bytes of the file, all of them where it has fewer.
+  std::optional<std::string> read(std::size_t count, std::error_code& error) const;
 
   /// Closes at once; the only way to learn of an error that shows no earlier.
   std::error_code close();
 
  private:
   int number_;
-  std::size_t openedSize_ = 0;
+  std::uintmax_t size_ = 0;
 };
 
 /// The error that the last system call left behind.

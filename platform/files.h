@@ -26,9 +26,6 @@ std::optional<std::string> readTextFile(const std::string& path, std::error_code
 /// taken back, so that after an error the file holds what it held.
 std::error_code writeFile(const std::string& path, std::string_view content);
 
-/// Removes the file that a path leads to; a link on the way stays. Failing does no harm.
-void removeFile(const std::string& path);
-
 /// Copies a file to a place where there is none yet, with its mode.
 std::error_code copyFile(const std::string& from, const std::string& to);
 

@@ -77,9 +77,6 @@ ssize_t pread(int file, void* bytes, size_t size, off_t at) {
 ssize_t pwrite(int file, const void* bytes, size_t size, off_t at) {
   return call("pwrite", SYS_pwrite64, file, bytes, fault().halves ? (size + 1) / 2 : size, at);
 }
-ssize_t write(int file, const void* bytes, size_t size) {
-  return call("write", SYS_write, file, bytes, size);
-}
 int fallocate(int file, int mode, off_t at, off_t size) {
   return static_cast<int>(call("fallocate", SYS_fallocate, file, mode, at, size));
 }
@@ -218,9 +215,23 @@ TEST(Faults, AnImageOrACopyIsCompleteOrNotThere) {
       EXPECT_TRUE(failed || folder.read("made") == content);
       EXPECT_TRUE(!failed || planned.error != EINTR);
     };
-    eachFault({"open", "fallocate", "close"}, sweep);
-    eachFault(isCopy ? Calls{"pread", "pwrite"} : Calls{"write"}, sweep);
+    eachFault({"open", "pwrite", "fallocate", "close"}, sweep);
+    eachFault(isCopy ? Calls{"pread"} : Calls{}, sweep);
   }
+}
+
+TEST(Faults, AnImageThatWasThereIsStillThere) {
+  const std::string old(5000, 'x');
+  eachFault({"open", "pwrite", "fallocate", "close"}, [&](const Fault& planned) {
+    const tests::TemporaryFolder folder;
+    const std::string path = folder.write("image.dsk", old);
+    fault() = planned;
+    const bool failed = static_cast<bool>(volumes::writeImage(path, std::string(20000, '\0')));
+    fault().call = {};
+    const std::string file = folder.read("image.dsk");
+    EXPECT_EQ(file.size(), failed && planned.call != "close" ? old.size() : 20000);
+    EXPECT_TRUE(file == old || planned.call == "pwrite" || planned.call == "close" || !failed);
+  });
 }
 
 TEST(Faults, WhatChangesBetweenCheckAndUseIsNoticed) {

@@ -1,0 +1,191 @@
+#include "platform/file_writer.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <utility>
+
+namespace platform {
+namespace {
+
+// One call for an image's worth of zeros is several times slower: the kernel then maps the zeros
+// page by page.
+constexpr std::size_t stepLength = std::size_t{1} << 20U;
+
+// What a file system answers that cannot do a thing at all. The steps that follow have to tell
+// whether it was needed.
+bool isUnsupported(int error) {
+  return error == EINVAL || error == EOPNOTSUPP || error == ENOTSUP || error == ENOSYS;
+}
+
+std::error_code codeOf(std::errc error) { return std::make_error_code(error); }
+
+// A limit on file sizes keeps space from being written, not from being reserved.
+std::error_code checkSizeLimit(std::size_t length) {
+  rlimit limit{};
+  const bool isKnown = ::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
+  return isKnown && length > limit.rlim_cur ? codeOf(std::errc::file_too_large) : std::error_code();
+}
+
+// Where nothing can be reserved, free space at least is there now.
+std::error_code checkFreeSpace(int descriptor, std::size_t length) {
+  struct statvfs disk {};
+  struct stat status {};
+  // Some network file systems tell no size.
+  if (::fstatvfs(descriptor, &disk) != 0 || ::fstat(descriptor, &status) != 0 ||
+      disk.f_blocks == 0 || disk.f_frsize == 0) {
+    return {};
+  }
+  const auto allocated = static_cast<std::uintmax_t>(status.st_blocks) * 512;
+  return length <= allocated || (length - allocated) / disk.f_frsize < disk.f_bavail
+             ? std::error_code()
+             : codeOf(std::errc::no_space_on_device);
+}
+
+std::error_code writeAll(int descriptor, std::string_view content) {
+  for (off_t offset = 0; !content.empty();) {
+    const std::size_t length = std::min(content.size(), stepLength);
+    const ssize_t count =
+        retried([&] { return ::pwrite(descriptor, content.data(), length, offset); });
+    if (count <= 0) {
+      return count < 0 ? lastError() : codeOf(std::errc::io_error);
+    }
+    content.remove_prefix(static_cast<std::size_t>(count));
+    offset += count;
+  }
+  return {};
+}
+
+std::error_code setSize(int descriptor, std::uintmax_t size) {
+  return retried([&] { return ::ftruncate(descriptor, static_cast<off_t>(size)); }) == 0
+             ? std::error_code()
+             : lastError();
+}
+
+}  // namespace
+
+std::string linkTarget(const std::string& path) {
+  constexpr int mostLinks = 40;  // as many as Linux follows
+  std::filesystem::path place = path;
+  for (int links = 0; links < mostLinks; ++links) {
+    std::error_code error;
+    const std::filesystem::path target = std::filesystem::read_symlink(place, error);
+    if (error) {
+      break;
+    }
+    place = place.parent_path() / target;
+  }
+  return place.string();
+}
+
+FileWriter FileWriter::openOrCreate(const std::string& path) {
+  FileWriter writer;
+  // A second attempt is for a file that appears between the two calls of the first.
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    writer.path_ = path;
+    writer.open(O_RDWR);
+    writer.isReadable_ = writer.error_ != std::errc::permission_denied;
+    if (!writer.isReadable_) {
+      writer.open(O_WRONLY);
+    }
+    if (writer.error_ != std::errc::no_such_file_or_directory) {
+      break;
+    }
+    writer = create(linkTarget(path));
+    if (writer.error_ != std::errc::file_exists) {
+      break;
+    }
+  }
+  return writer;
+}
+
+FileWriter FileWriter::create(const std::string& path) {
+  FileWriter writer;
+  writer.path_ = path;
+  writer.open(O_RDWR | O_CREAT | O_EXCL);
+  writer.isNew_ = writer.file_.isOpen();
+  return writer;
+}
+
+void FileWriter::keep(std::uintmax_t length) {
+  if (error_ || !isReadable_) {
+    return;
+  }
+  const std::uintmax_t count = std::min(length, file_.size());
+  if (auto content = file_.read(static_cast<std::size_t>(count), error_)) {
+    kept_ = *std::move(content);
+  }
+}
+
+void FileWriter::reserve(std::size_t length) {
+  if (error_ || length == 0) {
+    return;
+  }
+  error_ = checkSizeLimit(length);
+  if (error_) {
+    return;
+  }
+#ifdef __linux__
+  // The file keeps its length: should the program end here, it holds no zeros behind the old text.
+  const auto bytes = static_cast<off_t>(length);
+  if (retried([&] { return ::fallocate(file_.get(), FALLOC_FL_KEEP_SIZE, 0, bytes); }) == 0) {
+    return;
+  }
+  if (!isUnsupported(errno)) {
+    error_ = lastError();
+    return;
+  }
+#endif
+  error_ = checkFreeSpace(file_.get(), length);
+}
+
+void FileWriter::write(std::string_view content) {
+  if (!error_) {
+    isChanged_ = true;
+    error_ = writeAll(file_.get(), content);
+  }
+}
+
+void FileWriter::cut(std::size_t length) {
+  if (!error_ && length < file_.size()) {
+    error_ = setSize(file_.get(), length);
+  }
+}
+
+void FileWriter::flush() {
+  if (!error_ && retried([&] { return ::fsync(file_.get()); }) != 0 && !isUnsupported(errno)) {
+    error_ = lastError();
+  }
+}
+
+void FileWriter::takeBack() {
+  if (isChanged_) {
+    writeAll(file_.get(), kept_);
+  }
+  // Gives back what had been reserved behind the old end, too.
+  setSize(file_.get(), file_.size());
+}
+
+std::error_code FileWriter::finish() {
+  if (!file_.isOpen()) {
+    return error_;
+  }
+  if (error_) {
+    takeBack();
+  }
+  const std::error_code closing = file_.close();
+  error_ = error_ ? error_ : closing;
+  if (error_ && isNew_) {
+    // An empty file would be read as one without settings: none at all is better.
+    ::unlink(path_.c_str());
+  }
+  return error_;
+}
+
+}  // namespace platform
