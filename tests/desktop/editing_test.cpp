@@ -8,8 +8,8 @@
 #include <QWheelEvent>
 #include <set>
 
-#include "fuzz/model.h"
 #include "tests/desktop/window_fixture.h"
+#include "tests/support/model.h"
 
 namespace {
 
@@ -68,7 +68,7 @@ TEST_F(Editing, WhatIsBeingTypedIsPartOfTheSaveHoweverItIsAskedFor) {
     QTest::qWait(0);
     EXPECT_TRUE(QApplication::focusWidget() == focus ||
                 QApplication::focusWidget() == find("savePrefs"));
-    const fuzz::Model wanted("ramsize 38797312\nrom /new rom\nscreen win/123/600\n");
+    const tests::Model wanted("ramsize 38797312\nrom /new rom\nscreen win/123/600\n");
     EXPECT_EQ(file(), wanted.text());
     launches += QString::fromStdString(fake.said()).count(QLatin1String("<launch"));
   }
@@ -85,7 +85,7 @@ TEST_F(Editing, APastedTextIsOneLine) {
     key(Qt::Key_S, control);
   }
   EXPECT_EQ(file(),
-            fuzz::Model("ramsize 67108864\nrom /new ramsize 1\nether /new ramsize 1\n").text());
+            tests::Model("ramsize 67108864\nrom /new ramsize 1\nether /new ramsize 1\n").text());
 }
 
 TEST_F(Editing, AFileThatCannotBeReadIsToldUntilItIsReplaced) {
@@ -159,7 +159,7 @@ TEST_F(Editing, NothingChangesOnTheWayPast) {
   }
   EXPECT_TRUE(scrolled);
   key(Qt::Key_S, control);
-  EXPECT_EQ(file(), fuzz::Model(odd).text());
+  EXPECT_EQ(file(), tests::Model(odd).text());
 }
 
 // In the window that is in front.

@@ -65,6 +65,14 @@ class WindowTest : public testing::Test {
     }
   }
 
+  void showTabOf(const QWidget* widget) const {
+    for (int tab = 0; tab < tabs()->count(); ++tab) {
+      if (tabs()->widget(tab)->isAncestorOf(widget)) {
+        tabs()->setCurrentIndex(tab);
+      }
+    }
+  }
+
   /// Keys go to the window that has the focus, as they do from a keyboard.
   static void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(front(), static_cast<Qt::Key>(code), modifiers);

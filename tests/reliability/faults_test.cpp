@@ -15,9 +15,9 @@
 #include <random>
 
 #include "editor/view_controller.h"
-#include "fuzz/model.h"
 #include "platform/files.h"
 #include "tests/support/fake_host.h"
+#include "tests/support/model.h"
 #include "volumes/blank_image.h"
 
 namespace {
@@ -144,7 +144,7 @@ struct Save {
     window.viewDidLoad();
     auto& box = window.machine.ramSizeMB.box;
     box.edit([&] { box.enterText("9"); });
-    fuzz::Model model(old);
+    tests::Model model(old);
     model[document::Key::ramsize] = "9437184";
     wanted = model.text();
   }
@@ -262,8 +262,8 @@ TEST(Kill, InTheMiddleOfASaveLeavesTheOldOrTheNewLines) {
   std::mt19937 random(1);  // NOLINT: always the same moments
   for (const std::size_t disks : {5U, 2000U}) {
     const tests::TemporaryFolder folder;
-    const std::string texts[] = {fuzz::Model(fileWith(disks)).text(),
-                                 fuzz::Model(fileWith(disks + disks / 2)).text()};
+    const std::string texts[] = {tests::Model(fileWith(disks)).text(),
+                                 tests::Model(fileWith(disks + disks / 2)).text()};
     int torn = 0;
     int padded = 0;
     for (int round = 0; round < 1000; ++round) {

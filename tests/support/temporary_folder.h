@@ -11,7 +11,9 @@ namespace tests {
 /// A folder of its own for a test, removed with all that is in it.
 class TemporaryFolder {
  public:
-  TemporaryFolder() : path_(std::filesystem::canonical("/tmp") / "quillon-test-XXXXXX") {
+  TemporaryFolder()
+      : path_(std::filesystem::canonical(std::filesystem::temp_directory_path()) /
+              "quillon-test-XXXXXX") {
     if (::mkdtemp(path_.data()) == nullptr) {
       std::abort();
     }

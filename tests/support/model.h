@@ -1,0 +1,114 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/key_table.h"
+#include "platform/text.h"
+
+namespace tests {
+
+/// What a window over a preferences file must write back, worked out in the plainest way there is.
+struct Model {
+  using Key = document::Key;
+
+  std::vector<std::string> disks;
+  std::array<std::string, document::keyCount> values;
+
+  explicit Model(const std::string& file) {
+    std::vector<std::string> lines;
+    for (std::string rest = platform::isUtf8(file) ? file + "\n" : ""; !rest.empty();) {
+      lines.push_back(rest.substr(0, rest.find('\n')));
+      rest.erase(0, rest.find('\n') + 1);
+    }
+    for (const document::KeyRow& row : document::keyTable) {
+      (*this)[row.key] = found(lines, row);
+    }
+    const auto [type, width, height] = screenParts((*this)[Key::screen]);
+    setScreenPart(0, type == "win" ? "win" : "dga");
+    setScreenPart(1, width);
+    setScreenPart(2, height);
+    (*this)[Key::bootdrive] = (*this)[Key::bootdrive] == "0" ? "0" : "1";
+    (*this)[Key::mousewheelmode] = (*this)[Key::mousewheelmode] == "1" ? "1" : "0";
+    for (const std::string& line : lines) {
+      if (line.starts_with("disk ") && line != "disk ") {
+        disks.push_back(line.substr(5));
+        if (disks.back().size() > 1 && disks.back().back() == '/') {
+          disks.back().pop_back();
+        }
+      }
+    }
+  }
+
+  std::string& operator[](Key key) { return values.at(document::indexOf(key)); }
+
+  [[nodiscard]] std::vector<std::string> lines() const {
+    std::vector<std::string> all;
+    for (const std::string& disk : disks) {
+      all.push_back("disk " + disk);
+    }
+    for (std::size_t index = 0; index < values.size(); ++index) {
+      all.push_back(std::string(document::prefs.at(index)) + values.at(index));
+    }
+    return all;
+  }
+
+  [[nodiscard]] std::string text() const {
+    std::string text;
+    for (const std::string& line : lines()) {
+      text += line + "\n";
+    }
+    return text;
+  }
+
+  /// Whether each key is found in its own line again, as it is unless a path or another value
+  /// holds the key's text, and with the same value; and no path can lose another slash.
+  [[nodiscard]] bool isUnambiguous() const {
+    const auto all = lines();
+    for (const std::string& disk : disks) {
+      if (disk.size() > 1 && disk.back() == '/') {
+        return false;
+      }
+    }
+    for (const document::KeyRow& row : document::keyTable) {
+      if (found(all, row) != values.at(document::indexOf(row.key))) {
+        return false;
+      }
+    }
+    return true;
+  }
+
+  /// Sets the type, the width or the height, and leaves the others.
+  void setScreenPart(std::size_t part, const std::string& text) {
+    auto parts = screenParts((*this)[Key::screen]);
+    parts.at(part) = text == "Maximum" ? "0" : text;
+    (*this)[Key::screen] = parts[0] + "/" + parts[1] + "/" + parts[2];
+  }
+
+ private:
+  // Those that are missing are the default's.
+  static std::array<std::string, 3> screenParts(std::string value) {
+    std::array<std::string, 3> parts{"win", "1024", "768"};
+    value += "/";
+    for (std::size_t part = 0; part < parts.size() && !value.empty(); ++part) {
+      parts.at(part) = value.substr(0, value.find('/'));
+      value.erase(0, value.find('/') + 1);
+    }
+    return parts;
+  }
+
+  static std::string found(const std::vector<std::string>& lines, const document::KeyRow& row) {
+    for (const std::string& line : lines) {
+      if (line.find(row.text) != std::string::npos) {
+        const auto value = platform::dropCharacters(line, row.text.size());
+        const bool other = row.key == Key::rom && line.find("nocdrom") != std::string::npos;
+        return std::string(other || value.empty() ? row.defaultValue : value);
+      }
+    }
+    return std::string(row.defaultValue);
+  }
+};
+
+}  // namespace tests
