@@ -37,8 +37,8 @@ installMissing "${packages[@]}"
 (
   cd "$root"
   # A folder that was configured with the tests stays so: GoogleTest is there then.
-  [ -e build/release/build.ninja ] || quietly cmake --preset release -DQUILLON_TESTS=OFF
-  quietly cmake --build --preset release --target quillon-settings
+  [ -e build/release/build.ninja ] || configure -DQUILLON_TESTS=OFF
+  quietly cmake --build build/release --target quillon-settings
 )
 bundle=$root/build/release/QuillonSettings.app
 export LANG=${LANG:-C.UTF-8}

@@ -6,6 +6,6 @@ cd "$(dirname "$(readlink -f "$0")")"
 . scripts/packages.sh
 
 installMissing "${testPackages[@]}"
-quietly cmake --preset release -DQUILLON_TESTS=ON
-quietly cmake --build --preset release
-exec ctest --preset release --no-tests=error "$@"
+configure -DQUILLON_TESTS=ON
+quietly cmake --build build/release
+exec ctest --test-dir build/release --output-on-failure --no-tests=error "$@"

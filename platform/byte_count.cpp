@@ -8,24 +8,41 @@ namespace {
 
 struct Unit {
   std::string_view name;
-  unsigned hundredths;  // hundredths that a written count is a multiple of
+  unsigned fractionDigits;
 };
 
 constexpr std::array<Unit, 7> units = {
-    {{"bytes", 100}, {"KB", 100}, {"MB", 10}, {"GB", 1}, {"TB", 1}, {"PB", 1}, {"EB", 1}}};
+    {{"bytes", 0}, {"KB", 0}, {"MB", 1}, {"GB", 2}, {"TB", 2}, {"PB", 2}, {"EB", 2}}};
 
-// bytes / divisor in hundredths, rounded half up to a multiple of `step`. 128 bits hold any
-// product of a byte count and a hundred.
-__extension__ using Wide = unsigned __int128;
+struct Count {
+  std::uint64_t whole;
+  unsigned hundredths;
+};
 
-Wide hundredthsOf(std::uint64_t bytes, std::uint64_t divisor, unsigned step) {
-  const Wide unit = Wide(divisor) * step;
-  return (Wide(bytes) * 100 * 2 + unit) / (unit * 2) * step;
+// bytes / divisor, rounded half up to that many fraction digits. Divided digit by digit, because a
+// hundred times a byte count does not fit into 64 bits, and 32-bit machines have no longer numbers:
+// the largest remainder, of 2^60 bytes, leaves room for a factor of 16.
+Count quotient(std::uint64_t bytes, std::uint64_t divisor, unsigned fractionDigits) {
+  Count count{bytes / divisor, 0};
+  std::uint64_t rest = bytes % divisor;
+  unsigned worth = 100;  // of the last digit, in hundredths
+  for (unsigned digit = 0; digit < fractionDigits; ++digit) {
+    worth /= 10;
+    rest *= 10;
+    count.hundredths += static_cast<unsigned>(rest / divisor) * worth;
+    rest %= divisor;
+  }
+  if (rest * 2 >= divisor) {
+    count.hundredths += worth;
+  }
+  count.whole += count.hundredths / 100;
+  count.hundredths %= 100;
+  return count;
 }
 
-std::string decimalText(std::uint64_t hundredths) {
-  std::string text = std::to_string(hundredths / 100);
-  const auto fraction = static_cast<char>(hundredths % 100);
+std::string decimalText(const Count& count) {
+  std::string text = std::to_string(count.whole);
+  const auto fraction = static_cast<char>(count.hundredths);
   if (fraction != 0) {
     text += {'.', static_cast<char>('0' + fraction / 10)};
     if (fraction % 10 != 0) {
@@ -47,16 +64,16 @@ std::string ByteCountFormatter::stringFromByteCount(std::int64_t bytes) const {
 
   std::size_t unit = 0;
   std::uint64_t divisor = 1;
-  Wide hundredths = hundredthsOf(magnitude, divisor, units[unit].hundredths);
+  Count count = quotient(magnitude, divisor, units[unit].fractionDigits);
   // A count that rounds to a whole next unit is written in that one.
-  while (hundredths >= Wide(base) * 100 && unit + 1 < units.size()) {
+  while (count.whole >= base && unit + 1 < units.size()) {
     ++unit;
     divisor *= base;
-    hundredths = hundredthsOf(magnitude, divisor, units[unit].hundredths);
+    count = quotient(magnitude, divisor, units[unit].fractionDigits);
   }
 
   std::string text = bytes < 0 ? "-" : "";
-  text += decimalText(static_cast<std::uint64_t>(hundredths));
+  text += decimalText(count);
   if (includesUnit) {
     text.append(" ").append(magnitude == 1 ? "byte" : units[unit].name);
   }

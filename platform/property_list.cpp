@@ -1,12 +1,11 @@
 #include "platform/property_list.h"
 
-#include <plist/plist.h>
-
 #include <cstdlib>
 #include <set>
 
 #include "platform/binary_list.h"
 #include "platform/files.h"
+#include "platform/plist_compat.h"
 
 namespace platform {
 namespace {
@@ -24,7 +23,7 @@ bool holdsAKeyTwice(plist_t dictionary) {
     char* key = nullptr;
     plist_t value = nullptr;
     plist_dict_next_item(dictionary, position, &key, &value);
-    const std::unique_ptr<char, decltype(&std::free)> ownedKey(key, &std::free);
+    const PlistText ownedKey(key);
     if (key == nullptr) {
       return false;
     }
@@ -45,10 +44,7 @@ std::optional<PropertyList> PropertyList::read(const std::string& path, std::err
   if (!bytes) {
     return std::nullopt;
   }
-  plist_t root = nullptr;
-  if (isHarmless(*bytes, expandedLimit)) {
-    plist_from_memory(bytes->data(), static_cast<std::uint32_t>(bytes->size()), &root);
-  }
+  const plist_t root = isHarmless(*bytes, expandedLimit) ? plistFromMemory(*bytes) : nullptr;
   PropertyList list(root);
   if (plist_get_node_type(root) != PLIST_DICT || holdsAKeyTwice(root)) {
     error = std::make_error_code(std::errc::invalid_argument);
@@ -68,7 +64,7 @@ std::optional<std::string> PropertyList::text(const std::string& key) const {
   }
   char* value = nullptr;
   plist_get_string_val(node, &value);
-  const std::unique_ptr<char, decltype(&std::free)> owned(value, &std::free);
+  const PlistText owned(value);
   return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
 }
 
@@ -112,7 +108,7 @@ std::optional<std::string> PropertyList::xml() const {
   char* text = nullptr;
   std::uint32_t length = 0;
   plist_to_xml(root_.get(), &text, &length);
-  const std::unique_ptr<char, decltype(&plist_to_xml_free)> owned(text, &plist_to_xml_free);
+  const PlistText owned(text);
   // What could not be read again is better not written.
   return text != nullptr && length <= sizeLimit
              ? std::optional<std::string>(std::in_place, text, length)

@@ -39,8 +39,9 @@ checkVersions() {
 }
 
 installMissing "${buildPackages[@]}" dpkg-dev file lintian desktop-file-utils appstream man-db
-[ -e $build/build.ninja ] || quietly cmake --preset release -DQUILLON_TESTS=OFF
-quietly cmake --build --preset release --target quillon-settings manuals
+[ -e $build/build.ninja ] || configure -DQUILLON_TESTS=OFF
+configure -DQUILLON_HARDENING=ON
+quietly cmake --build $build --target quillon-settings manuals
 checkTexts
 
 rm -rf build/packages

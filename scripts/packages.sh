@@ -19,6 +19,12 @@ quietly() {
   return "$status"
 }
 
+# configure OPTION...: prepares build/release. It asks for no preset, with which warnings are errors:
+# nobody has tried all compilers. A folder that was prepared by a preset keeps what that has set.
+configure() {
+  quietly cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=Release "$@"
+}
+
 isInstalled() {
   [[ $(dpkg-query -W -f='${db:Status-Status}\n' "$1" 2>/dev/null) == installed* ]]
 }

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <plist/plist.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -7,6 +6,7 @@
 #include "app/emulator_location.h"
 #include "app/settings_store.h"
 #include "app/shared_var.h"
+#include "platform/plist_compat.h"
 #include "tests/support/fake_host.h"
 
 namespace app {
@@ -32,10 +32,9 @@ std::string binary(const std::string& xml) {
   std::uint32_t size = 0;
   plist_from_xml(xml.data(), static_cast<std::uint32_t>(xml.size()), &root);
   plist_to_bin(root, &bytes, &size);
-  std::string result(bytes, size);
-  plist_to_bin_free(bytes);
+  const platform::PlistText owned(bytes);
   plist_free(root);
-  return result;
+  return {bytes, size};
 }
 
 // What sharedVar holds.
