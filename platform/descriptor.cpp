@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <new>
 
 namespace platform {
 
@@ -47,13 +46,7 @@ std::error_code Descriptor::measure() {
 }
 
 std::optional<std::string> Descriptor::read(std::size_t count, std::error_code& error) const {
-  std::string content;
-  try {
-    content.resize(count);
-  } catch (const std::bad_alloc&) {
-    error = std::make_error_code(std::errc::not_enough_memory);
-    return std::nullopt;
-  }
+  std::string content(count, '\0');
   std::size_t filled = 0;
   while (filled < count) {
     const ssize_t got = retried([&] {

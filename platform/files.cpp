@@ -15,10 +15,11 @@ namespace platform {
 namespace {
 
 // The new content is followed by empty lines up to the old length and only then cut: should the
-// program end in between, the file holds all new lines and nothing else.
+// program end in between, the file holds all new lines and nothing else. What is too large to be
+// read is not worth so many empty lines: there, only what will be overwritten is held in memory.
 std::string padded(std::string_view content, std::uintmax_t length) {
   std::string lines(content);
-  if (lines.size() < length) {
+  if (lines.size() < length && length <= largestFile) {
     lines.resize(static_cast<std::size_t>(length), '\n');
   }
   return lines;
@@ -73,7 +74,8 @@ std::optional<std::string> readTextFile(const std::string& path, std::error_code
 }
 
 std::error_code writeFile(const std::string& path, std::string_view content) {
-  return replaceContent(FileWriter::openOrCreate(path), content);
+  return content.size() > largestFile ? std::make_error_code(std::errc::file_too_large)
+                                      : replaceContent(FileWriter::openOrCreate(path), content);
 }
 
 std::error_code copyFile(const std::string& from, const std::string& to) {

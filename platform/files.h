@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,17 +12,21 @@ namespace platform {
 /// Whether a file or folder is there, links followed.
 bool fileExists(const std::string& path);
 
+/// The most that is read from a file or written to one, in bytes.
+inline constexpr std::size_t largestFile = std::size_t{64} << 20U;
+
 /// The whole content of a regular file. None, with the reason in `error`, for anything else: a
 /// folder, a pipe or a device (never waited for), or a file of more than `limit` bytes.
 std::optional<std::string> readFile(const std::string& path, std::error_code& error,
-                                    std::size_t limit = std::numeric_limits<std::size_t>::max());
+                                    std::size_t limit = largestFile);
 
 /// As readFile, for a file of UTF-8 text; `illegal_byte_sequence` when it holds something else.
 std::optional<std::string> readTextFile(const std::string& path, std::error_code& error);
 
 /// Replaces the content of a file where it is, creating it when missing: links, mode and owner
 /// stay. The space is reserved before anything is changed, and a write that fails all the same is
-/// taken back, so that after an error the file holds what it held.
+/// taken back, so that after an error the file holds what it held, however large that was. More
+/// than `largestFile` bytes, which could not be read again, are refused.
 std::error_code writeFile(const std::string& path, std::string_view content);
 
 /// Copies a file to a place where there is none yet, with its mode.

@@ -29,7 +29,7 @@ struct Fault {
   int error = 0;
   int due = 0;  // counted from 1
   Extent extent = once;
-  std::function<void()> change;  // happens instead of the error
+  std::function<void()> change = {};  // happens instead of the error
   int seen = 0;
   bool halves = false;  // each write takes half of what it is given
 };
@@ -182,6 +182,24 @@ TEST(Faults, ASaveLeavesTheOldOrTheNewText) {
     eachFault(old.empty() ? Calls{} : Calls{"pread"}, sweep);
     eachFault(old == shrinks ? Calls{"ftruncate"} : Calls{}, sweep);
   }
+}
+
+TEST(Faults, ASaveOverAFileTooLargeToReadLosesNothing) {
+  const tests::TemporaryFolder folder;
+  const std::string front(100'000, 'x');
+  const std::string text = fileWith(300);
+  const std::uintmax_t gigabyte = std::uintmax_t{1} << 30U;
+  const std::string path = folder.write("prefs", front);
+  fs::resize_file(path, gigabyte);
+  fault() = {.call = "pwrite", .error = ENOSPC, .due = 3, .halves = true};
+  EXPECT_EQ(platform::writeFile(path, text), std::errc::no_space_on_device);
+  fault() = {};
+  EXPECT_EQ(fs::file_size(path), gigabyte);
+  std::string found(front.size(), ' ');
+  std::ifstream(path, std::ios::binary).read(found.data(), std::ssize(found));
+  EXPECT_TRUE(found == front);
+  EXPECT_FALSE(platform::writeFile(path, text));
+  EXPECT_EQ(folder.read("prefs"), text);
 }
 
 TEST(Faults, OpeningTouchesNoFileThatIsThere) {
