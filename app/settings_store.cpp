@@ -31,7 +31,7 @@ std::string shown(std::int64_t number) { return std::to_string(number); }
 
 bool isWritable(const std::string& file) {
   const std::string place =
-      platform::fileExists(file) ? file : std::filesystem::path(file).parent_path().string();
+      platform::isMissing(file) ? std::filesystem::path(file).parent_path().string() : file;
   return ::access(place.c_str(), W_OK) == 0;
 }
 
@@ -44,7 +44,7 @@ SettingsStore::SettingsStore(const platform::Host& host)
 
 void SettingsStore::load() {
   std::error_code error;
-  const std::string& source = platform::fileExists(file_) ? file_ : shipped_;
+  const std::string& source = platform::isMissing(file_) ? shipped_ : file_;
   auto list = platform::PropertyList::read(source, error);
   dict_ = list ? *std::move(list) : platform::PropertyList();
   eachSetting([&](const char* key, auto& field, auto read, const auto& shippedValue) {

@@ -32,7 +32,7 @@ void Preferences::load() {
   output_.print(fileName);
   prefsURL = platform::Location::fromPath(dir + "/" + fileName);
   prefsURL2 = platform::Location::fromPath(dir + "/.quillon_prefs_debug");
-  const bool noprefsfile = !platform::fileExists(prefsURL->path());
+  const bool noprefsfile = platform::isMissing(prefsURL->path());
   if (noprefsfile) {
     output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ");
   } else {
@@ -65,7 +65,13 @@ void Preferences::createFile() {
   }
   output_.print(platform::listText(preferencesDefault));
   output_.print("newNoPrefs:\n ", platform::optionalText(newNoPrefs[2]), "\n");
-  if (!platform::writeFile(prefsURL->path(), joined(preferencesDefault))) {
+  const std::error_code error = platform::createFile(prefsURL->path(), joined(preferencesDefault));
+  if (error == std::errc::file_exists) {
+    // Somebody has made one since it was looked for. It has not been read, and is not to be
+    // replaced without a word.
+    readError_ = error.message();
+  }
+  if (!error) {
     for (const std::string& written : preferencesDefault) {
       output_.print(std::to_string(written.size()));
     }

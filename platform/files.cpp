@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 
 #include "platform/descriptor.h"
@@ -42,6 +43,12 @@ bool fileExists(const std::string& path) {
   return path.find('\0') == std::string::npos && ::stat(path.c_str(), &status) == 0;
 }
 
+bool isMissing(const std::string& path) {
+  struct stat status {};
+  return path.find('\0') == std::string::npos && ::stat(path.c_str(), &status) != 0 &&
+         (errno == ENOENT || errno == ENOTDIR);
+}
+
 std::optional<std::string> readFile(const std::string& path, std::error_code& error,
                                     std::size_t limit) {
   const Descriptor file = Descriptor::openRegular(path, O_RDONLY, error);
@@ -76,6 +83,10 @@ std::optional<std::string> readTextFile(const std::string& path, std::error_code
 std::error_code writeFile(const std::string& path, std::string_view content) {
   return content.size() > largestFile ? std::make_error_code(std::errc::file_too_large)
                                       : replaceContent(FileWriter::openOrCreate(path), content);
+}
+
+std::error_code createFile(const std::string& path, std::string_view content) {
+  return replaceContent(FileWriter::create(linkTarget(path)), content);
 }
 
 std::error_code copyFile(const std::string& from, const std::string& to) {

@@ -9,8 +9,12 @@
 
 namespace platform {
 
-/// Whether a file or folder is there, links followed.
+/// Whether a file or folder is there, links followed; false, too, when that cannot be found out.
 bool fileExists(const std::string& path);
+
+/// Whether it is certain that nothing is there, not even behind a link. A file on a failing disk or
+/// in a closed folder is not missing.
+bool isMissing(const std::string& path);
 
 /// The most that is read from a file or written to one, in bytes.
 inline constexpr std::size_t largestFile = std::size_t{64} << 20U;
@@ -28,6 +32,10 @@ std::optional<std::string> readTextFile(const std::string& path, std::error_code
 /// taken back, so that after an error the file holds what it held, however large that was. More
 /// than `largestFile` bytes, which could not be read again, are refused.
 std::error_code writeFile(const std::string& path, std::string_view content);
+
+/// Writes a file where none is yet; `file_exists` where there is one by now. A link into nowhere
+/// stays, and the file comes to be where it leads to.
+std::error_code createFile(const std::string& path, std::string_view content);
 
 /// Copies a file to a place where there is none yet, with its mode.
 std::error_code copyFile(const std::string& from, const std::string& to);

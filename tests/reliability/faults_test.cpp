@@ -71,6 +71,9 @@ int open(const char* path, int flags, ...) {
   va_end(rest);
   return static_cast<int>(call("open", SYS_openat, AT_FDCWD, path, flags, mode));
 }
+int stat(const char* path, struct stat* status) noexcept {
+  return strikes("stat") ? -1 : ::fstatat(AT_FDCWD, path, status, 0);
+}
 ssize_t pread(int file, void* bytes, size_t size, off_t at) {
   return call("pread", SYS_pread64, file, bytes, size, at);
 }
@@ -204,7 +207,7 @@ TEST(Faults, ASaveOverAFileTooLargeToReadLosesNothing) {
 
 TEST(Faults, OpeningTouchesNoFileThatIsThere) {
   const std::string old = fileWith(3);
-  eachFault({"open", "pread", "close"}, [&](const Fault& planned) {
+  eachFault({"stat", "open", "pread", "close"}, [&](const Fault& planned) {
     FakeHost host;
     host.home.write(FakeHost::prefs, old);
     editor::ViewController window(host.host());
@@ -216,6 +219,20 @@ TEST(Faults, OpeningTouchesNoFileThatIsThere) {
     EXPECT_TRUE(read || planned.error != EINTR);
     EXPECT_EQ(host.home.read(FakeHost::prefs), old);
   });
+}
+
+TEST(Faults, AFirstFileReplacesNoneThatAppearedMeanwhile) {
+  const tests::TemporaryFolder home;
+  const std::string path = home.path(FakeHost::prefs);
+  platform::BufferOutput output;
+  document::Preferences preferences(home.path(), output);
+  fault() = {.call = "open", .due = 1, .change = [&] {
+               fault().call = {};
+               home.write(FakeHost::prefs, "ramsize 1\n");
+             }};
+  preferences.load();
+  EXPECT_EQ(home.read(FakeHost::prefs), "ramsize 1\n");
+  EXPECT_EQ(preferences.readError(), "File exists");
 }
 
 TEST(Faults, AnImageOrACopyIsCompleteOrNotThere) {
