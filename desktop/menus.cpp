@@ -8,7 +8,7 @@ namespace desktop {
 
 Menus::Menus(editor::ViewController& controller, Controls& controls, const Openers& openers)
     : controls_(controls) {
-  addFile(controller);
+  addFile(controller, openers);
   add(addMenu(tr("&Edit")), tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
       openers.preferences);
   addPresets(controller.presets);
@@ -34,9 +34,10 @@ QAction* Menus::addButton(QMenu* menu, platform::Button& button, const QString& 
   });
 }
 
-void Menus::addFile(editor::ViewController& controller) {
+void Menus::addFile(editor::ViewController& controller, const Openers& openers) {
   QMenu* const file = addMenu(tr("&File"));
   addButton(file, controller.savePrefs, tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
+  add(file, tr("Pre&view…"), {}, openers.preview)->setObjectName(QLatin1String("previewFile"));
   start_ =
       addButton(file, controller.startQuil, tr("S&tart"), QKeySequence(Qt::CTRL | Qt::Key_Return));
   file->addSeparator();

@@ -15,6 +15,7 @@ class Menus : public QMenuBar {
  public:
   /// What opens the windows that no control of the core stands for.
   struct Openers {
+    std::function<void()> preview;
     std::function<void()> preferences;
     std::function<void()> agreement;
     std::function<void()> about;
@@ -34,7 +35,7 @@ class Menus : public QMenuBar {
                const Callback& callback);
   QAction* addButton(QMenu* menu, platform::Button& button, const QString& text,
                      const QKeySequence& keys);
-  void addFile(editor::ViewController& controller);
+  void addFile(editor::ViewController& controller, const Openers& openers);
   void addPresets(editor::Presets& presets);
 
   Controls& controls_;

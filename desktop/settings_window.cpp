@@ -19,6 +19,7 @@
 #include "desktop/create_sheet.h"
 #include "desktop/pages.h"
 #include "desktop/preferences_window.h"
+#include "desktop/preview_window.h"
 #include "desktop/status_line.h"
 #include "desktop/texts.h"
 
@@ -197,9 +198,9 @@ QWidget* SettingsWindow::topRow() {
   auto* const layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(0);
-  menus_ = new Menus(
-      controller_, controls_,
-      {[this] { openPreferences(); }, [this] { openAgreement(); }, [this] { tellAbout(); }});
+  menus_ = new Menus(controller_, controls_,
+                     {[this] { openPreview(); }, [this] { openPreferences(); },
+                      [this] { openAgreement(); }, [this] { tellAbout(); }});
   layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
   find_ = new FindField(
@@ -242,6 +243,12 @@ int SettingsWindow::tabOf(const SettingWidget& place) const {
 void SettingsWindow::goTo(const SettingWidget& place) {
   tabs_->setCurrentIndex(tabOf(place));
   place.widget->setFocus(Qt::ShortcutFocusReason);
+}
+
+// As a save would, it takes in first what is being typed.
+void SettingsWindow::openPreview() {
+  controls_.edits().endEditing();
+  (new PreviewWindow(controller_, this))->open();
 }
 
 void SettingsWindow::openPreferences() {

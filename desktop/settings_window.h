@@ -50,6 +50,7 @@ class SettingsWindow : public QMainWindow {
   void goTo(const SettingWidget& place);
   [[nodiscard]] int tabOf(const SettingWidget& place) const;
   void showStart(QPushButton* button);
+  void openPreview();
   void openPreferences();
   void openAgreement();
   void openCreation();

@@ -672,6 +672,10 @@
         <source>&amp;About Quillon Settings</source>
         <translation>Über &amp;Quillon-Einstellungen</translation>
     </message>
+    <message>
+        <source>Pre&amp;view…</source>
+        <translation>&amp;Vorschau…</translation>
+    </message>
 </context>
 <context>
     <name>desktop::PreferencesWindow</name>
@@ -758,6 +762,37 @@
     <message>
         <source>Chooses the application.</source>
         <translation>Wählt die Anwendung aus.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::PreviewWindow</name>
+    <message>
+        <source>Preview of the Preferences File</source>
+        <translation>Vorschau der Einstellungsdatei</translation>
+    </message>
+    <message>
+        <source>The typed place names no file.</source>
+        <translation>Der eingegebene Ort bezeichnet keine Datei.</translation>
+    </message>
+    <message>
+        <source>There is no file yet.</source>
+        <translation>Es gibt noch keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>In the &amp;file now:</source>
+        <translation>&amp;Jetzt in der Datei:</translation>
+    </message>
+    <message>
+        <source>After a &amp;save:</source>
+        <translation>Nach dem Nach dem &amp;Sichern:amp;Speichern:</translation>
+    </message>
+    <message>
+        <source>- will be dropped   * will be changed   + will be added</source>
+        <translation>- entfällt   * wird geändert   + kommt hinzu</translation>
     </message>
 </context>
 <context>
