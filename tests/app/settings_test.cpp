@@ -15,16 +15,37 @@ namespace {
 namespace fs = std::filesystem;
 using tests::FakeHost;
 
-const std::string file =
-    "<plist version=\"1.0\"><dict><key>Quillon.app location</key><string>/Q\u00fc &amp; "
-    "A.app</string><key>Start Button Enabled</key><false/><key>Start Flag</key>"
-    "<integer>7</integer><key>SCSI Tab</key><true/><key>Quit on Start</key><true/>"
-    "<key>Mine</key><array><real>1.5</real><date>2020-01-02T03:04:05Z</date><integer>-5</integer>"
-    "<data>AAEC</data><dict><key>k</key><string>&lt;v</string></dict></array></dict></plist>\n";
+/// What sharedVar holds of the settings that are stored.
+struct Stored {
+  std::string location;
+  bool start = true;
+  std::int64_t flag = startLocal;
+  bool scsi = false;
+  bool quit = false;
 
-std::string with(const std::string& part, const std::string& instead) {
-  return std::string(file).replace(file.find(part), part.size(), instead);
+  bool operator==(const Stored&) const = default;
+  friend std::ostream& operator<<(std::ostream& out, const Stored& stored) {
+    return out << stored.location << ", start " << stored.start << ", flag " << stored.flag
+               << ", SCSI " << stored.scsi << ", quit " << stored.quit;
+  }
+};
+
+Stored loaded() {
+  return {sharedVar::pathToQuil, sharedVar::startState, sharedVar::startFlag,
+          sharedVar::scsiTabState, sharedVar::quitGUI};
 }
+
+/// The property list in tests/data, with the setting of every key away from the shipped one.
+struct SettingsTest : testing::Test {
+  FakeHost host;
+  std::string file = tests::dataFile("own-settings.plist");
+  Stored own = {
+      .location = "/Q\u00fc & A.app", .start = false, .flag = 7, .scsi = true, .quit = true};
+
+  [[nodiscard]] std::string with(const std::string& part, const std::string& instead) const {
+    return std::string(file).replace(file.find(part), part.size(), instead);
+  }
+};
 
 std::string binary(const std::string& xml) {
   plist_t root = nullptr;
@@ -37,95 +58,110 @@ std::string binary(const std::string& xml) {
   return {bytes, size};
 }
 
-// What sharedVar holds.
-std::string shared() {
-  return sharedVar::pathToQuil + (sharedVar::startState ? " start " : " - ") +
-         std::to_string(sharedVar::startFlag) + (sharedVar::scsiTabState ? " SCSI" : " -") +
-         (sharedVar::quitGUI ? " quit" : " -");
+TEST_F(SettingsTest, ShippedFileHoldsAllKeys) {
+  SettingsStore(host.host()).load();
+  EXPECT_EQ(loaded(), Stored{});
+  EXPECT_EQ(host.said(), "");
 }
 
-TEST(SettingsStore, WhatIsUnusableHasTheShippedValue) {
-  const std::string shipped = " start 2 - -";
-  FakeHost host;
-  SettingsStore(host.host()).load();
-  EXPECT_EQ(shared(), shipped);
-  EXPECT_EQ(host.said(), "") << "the shipped file holds all keys";
-  std::string deep = with("<real>1.5</real>", "<array></array>");
-  for (int depth = 1; depth < 4000; ++depth) {
-    deep.insert(deep.find("</array>"), "<array></array>");
-  }
-  std::vector<std::tuple<std::string, std::string, int>> cases = {
-      // the content, what is loaded, how many keys are told
-      {file, "/Q\u00fc & A.app - 7 SCSI quit", 0},
-      {deep, "/Q\u00fc & A.app - 7 SCSI quit", 0},
-      {binary(deep), "/Q\u00fc & A.app - 7 SCSI quit", 0},
-      {with("<false/>", "<integer>0</integer>"), "/Q\u00fc & A.app start 7 SCSI quit", 1},
-      {with("<string>/Q\u00fc &amp; A.app</string>", "<true/>"), " - 7 SCSI quit", 1}};
-  for (const std::string& unusable :
-       {std::string(), std::string("garbage"), file.substr(0, 200), binary(file).substr(0, 100),
-        std::string("<plist><array/></plist>"), file + std::string(1 << 16, ' '),
-        std::string("folder"), std::string("missing")}) {
-    cases.emplace_back(unusable, shipped, 5);
-  }
-  for (const auto& [content, loaded, told] : cases) {
-    SCOPED_TRACE(content.substr(0, 400));
-    fs::remove_all(host.home.path(FakeHost::settings));
-    if (content == "folder") {
-      fs::create_directory(host.home.path(FakeHost::settings));
-    } else if (content != "missing") {
-      host.home.write(FakeHost::settings, content);
-    }
+TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
+  struct Row {
+    const char* what;
+    std::string content;
+    Stored loaded = {};
+    int told = 5;  // keys without a usable value
+  };
+  Stored started = own;
+  started.start = true;
+  Stored nowhere = own;
+  nowhere.location = "";
+  // clang-format off
+  const std::vector<Row> rows = {
+      {.what = "all keys", .content = file, .loaded = own, .told = 0},
+      {.what = "the binary form", .content = binary(file), .loaded = own, .told = 0},
+      {.what = "a number for a truth value", .content = with("<false/>", "<integer>0</integer>"), .loaded = started, .told = 1},
+      {.what = "a truth value for a text", .content = with("<string>/Q\u00fc &amp; A.app</string>", "<true/>"), .loaded = nowhere, .told = 1},
+      {.what = "nothing", .content = ""},
+      {.what = "garbage", .content = "garbage"},
+      {.what = "half a list", .content = file.substr(0, 200)},
+      {.what = "half a binary list", .content = binary(file).substr(0, 100)},
+      {.what = "a list without keys", .content = "<plist><array/></plist>"},
+      {.what = "more than 64 KiB", .content = file + std::string(1 << 16, ' ')}};
+  // clang-format on
+  const auto expectLoaded = [&](const Stored& expected, int told) {
     SettingsStore(host.host()).load();
-    EXPECT_EQ(shared(), loaded);
+    EXPECT_EQ(loaded(), expected);
     const std::string said = host.said();
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), told) << said;
+  };
+  for (const auto& [what, content, expected, told] : rows) {
+    SCOPED_TRACE(what);
+    host.home.write(FakeHost::settings, content);
+    expectLoaded(expected, told);
   }
+  fs::remove(host.home.path(FakeHost::settings));
+  expectLoaded({}, 5);
+  fs::create_directory(host.home.path(FakeHost::settings));
+  expectLoaded({}, 5);
 }
 
-TEST(SettingsStore, WritesBackWithWhatItDoesNotKnow) {
-  const std::string mine = ".config/quillon-settings/Prefs.plist";
-  const std::string old = with("<integer>7</integer>", "<string>7</string>");
-  for (const bool writable : {true, false}) {
-    FakeHost host;
-    const std::string path = host.home.write(FakeHost::settings, writable ? old : binary(old));
-    fs::permissions(path, fs::perms(writable ? 0644 : 0444));
-    // The superuser may write everything: ask as somebody else.
-    const bool superuser = !writable && ::getuid() == 0;
-    ASSERT_TRUE(!superuser || ::setreuid(65534, static_cast<uid_t>(-1)) == 0);
-    SettingsStore store(host.host());
-    ASSERT_TRUE(!superuser || ::setreuid(0, static_cast<uid_t>(-1)) == 0);
-    store.load();
-    EXPECT_EQ(host.said(), "Prefs.plist: no usable \"Start Flag\", taking 2\n");
-    store.writeBack();
-    const std::string written = host.home.read(writable ? FakeHost::settings : mine);
-    const std::string bytes = std::to_string(written.size()) + " bytes\n";
-    for (const auto* kept : {"<key>Mine</key>", "<real>1.5", "<date>2020-01-02T03:04:05Z", "AAEC",
-                             "<integer>-5", "<key>k</key>", "<string>&lt;v"}) {
-      EXPECT_NE(written.find(kept), written.npos) << kept << " in " << written;
-    }
-    EXPECT_EQ(host.home.read(writable ? mine : FakeHost::settings), writable ? "" : binary(old));
-    store.load();
-    EXPECT_EQ(host.said() + shared(), bytes + "/Q\u00fc & A.app - 2 SCSI quit");
-    fs::remove(path);
-    fs::create_directory(path);
-    store.writeBack();
-    EXPECT_EQ(host.said(), bytes + (writable ? "Is a directory\n" : ""));
+TEST_F(SettingsTest, WritesBackWithWhatItDoesNotKnow) {
+  host.home.write(FakeHost::settings, binary(file));
+  SettingsStore store(host.host());
+  store.load();
+  sharedVar::pathToQuil = "/new <&>";
+  sharedVar::startFlag = startCustom;
+  sharedVar::quitGUI = false;
+  store.writeBack();
+  const std::string written = host.home.read(FakeHost::settings);
+  EXPECT_EQ(host.said(), std::to_string(written.size()) + " bytes\n");
+  for (const char* const kept : {"<key>Mine</key>", "<real>1.5", "<date>2020-01-02T03:04:05Z",
+                                 "AAEC", "<integer>-5", "<key>k</key>", "<string>&lt;v"}) {
+    EXPECT_NE(written.find(kept), written.npos) << kept << " is not in " << written;
   }
+  store.load();
+  EXPECT_EQ(loaded(), (Stored{.location = "/new <&>", .start = false, .flag = 1, .scsi = true}));
+  EXPECT_EQ(host.said(), "") << "each key has its own type again";
+  fs::remove(host.home.path(FakeHost::settings));
+  fs::create_directory(host.home.path(FakeHost::settings));
+  store.writeBack();
+  EXPECT_TRUE(host.said().ends_with(" bytes\nIs a directory\n"));
 }
 
-TEST(EmulatorLocation, FollowsTheBundle) {
-  const std::string root = "/\u00c9  100%[?#";
-  FakeHost host;
+TEST_F(SettingsTest, APersonHasAFileWhereTheBundleIsReadOnly) {
+  const std::string path = host.home.write(FakeHost::settings, file);
+  fs::permissions(path, fs::perms(0444));
+  // The superuser may write everything: ask as somebody else.
+  const bool superuser = ::getuid() == 0;
+  ASSERT_TRUE(!superuser || ::setreuid(65534, static_cast<uid_t>(-1)) == 0);
+  SettingsStore store(host.host());
+  ASSERT_TRUE(!superuser || ::setreuid(0, static_cast<uid_t>(-1)) == 0);
+  store.load();
+  EXPECT_EQ(loaded(), own) << "it begins as the bundle's";
+  sharedVar::startFlag = startNone;
+  store.writeBack();
+  EXPECT_EQ(host.home.read(FakeHost::settings), file);
+  EXPECT_TRUE(fs::exists(host.home.path(".config/quillon-settings/Prefs.plist")));
   sharedVar::startFlag = startLocal;
-  applyLocalRule(host.output);  // without a root
+  store.load();
+  EXPECT_EQ(sharedVar::startFlag, startNone);
+}
+
+TEST_F(SettingsTest, LocalModeFollowsTheBundle) {
+  const std::string root = "/\u00c9  100%[?#";
+  const std::string emulator = "/%C3%89  100%25%5B%3F%23//Quillon.app";
+  sharedVar::startFlag = startLocal;
+  applyLocalRule(host.output);
+  EXPECT_EQ(sharedVar::pathToQuil, "") << "without a root";
   findLocalPath(platform::Bundle(root + "/Q S.app"), host.output);
-  for (const std::int64_t mode : {2, 1, -1}) {
+  applyLocalRule(host.output);
+  EXPECT_EQ(host.said(), "local path is: " + root + "\nlocal path is enabled: " + emulator + "\n");
+  for (const std::int64_t mode : {0, 1, -1}) {
     sharedVar::startFlag = mode;
+    sharedVar::pathToQuil = "/mine";
     applyLocalRule(host.output);
+    EXPECT_EQ(sharedVar::pathToQuil, "/mine") << "mode " << mode;
   }
-  const std::string found = "/%C3%89  100%25%5B%3F%23//Quillon.app";
-  EXPECT_EQ(host.said(), "local path is: " + root + "\nlocal path is enabled: " + found + "\n");
-  EXPECT_EQ(sharedVar::pathToQuil, found);
   findLocalPath(platform::Bundle("/Q.app"), host.output);
   EXPECT_EQ(sharedVar::pathToQuilRoot, "/");
 }

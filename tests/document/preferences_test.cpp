@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/model.h"
 #include "tests/support/temporary_folder.h"
 
 namespace document {
@@ -10,25 +11,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
-constexpr const char* file = ".quillon_prefs";
+constexpr const char* fileName = ".quillon_prefs";
 
-// Written out once more, so that a slip in the key table is seen.
-const std::string firstFile =
-    "extfs Put an OS X path here to share it with Quillon\nscreen "
-    "win/1024/768\nseriala \n"
-    "serialb \nether slirp\nudptunnel false\nudpport 6066\nrom Put the path to "
-    "your ROM file here\n"
-    "bootdrive 0\nbootdriver 0\nramsize 67108864\nframeskip 0\nmodelid 5\ncpu "
-    "3\nfpu false\n"
-    "nocdrom false\nnosound false\nnoclipconversion false\nnogui false\njit "
-    "false\njitfpu false\n"
-    "jitdebug false\njitcachesize 8192\njitlazyflush true\njitinline "
-    "true\nkeyboardtype 5\n"
-    "keycodes false\nkeycodefile \nmousewheelmode 1\nmousewheellines 3\ndsp "
-    "\nmixer \n"
-    "ignoresegv true\nidlewait true\n";
-
-struct PreferencesTest : ::testing::Test {
+struct PreferencesTest : testing::Test {
   tests::TemporaryFolder home;
   platform::BufferOutput output;
   Preferences preferences{home.path(), output};
@@ -36,86 +21,91 @@ struct PreferencesTest : ::testing::Test {
   std::string said() { return std::exchange(output.text, {}); }
 };
 
-TEST_F(PreferencesTest, LookUp) {
+TEST_F(PreferencesTest, FindsTheFirstLineThatHoldsTheKey) {
   std::string manyLines;
   while (manyLines.size() < 1 << 20) {
     manyLines += "nothing of ours\n";
   }
-  const std::tuple<std::string, Key, std::string, std::string> cases[] = {
-      // the file, the key, its value, what is said
-      {"", Key::cpu, "3", "No match for: cpu "},
-      {"nogui\n", Key::nogui, "false", "No match for: nogui "},
-      {"jitfpu false\nfpu true\n", Key::fpu, "pu false", "results: jitfpu false"},
-      {"screen a\nscreen b", Key::screen, "a", "results: screen a"},
-      {"udpport \nudpport 7\n", Key::udpport, "6066", "results: udpport "},
-      {"\n\ncpu 4\r\n\n", Key::cpu, "4\r", "results: cpu 4\r"},
-      {"cpu 4\0x\n"s, Key::cpu, "4\0x"s, "results: cpu 4\0x"s},
-      // What a person sees as one character is cut off as one.
-      {"e\u0301 cpu 4\n", Key::cpu, "u 4", "results: e\u0301 cpu 4"},
-      {"cpu \u0301\n", Key::cpu, "3", "results: cpu \u0301"},
-      {manyLines + "jitfpu 1\nfpu 2", Key::fpu, "pu 1", "results: jitfpu 1"}};
-  for (const auto& [text, key, value, line] : cases) {
-    SCOPED_TRACE(text.substr(0, 40));
-    preferences.settings = Lines(text);
+  struct Row {
+    std::string file;
+    Key key;
+    std::string value;
+  };
+  // What a person sees as one character is cut off as one.
+  const std::vector<Row> rows = {
+      {.file = "CPU 4\n", .key = Key::cpu, .value = "3"},
+      {.file = "bootdriver 7\nbootdrive 1", .key = Key::bootdrive, .value = "1"},
+      {.file = "udpport \nudpport 7\n", .key = Key::udpport, .value = "6066"},
+      {.file = "cpu 4\0x\n"s, .key = Key::cpu, .value = "4\0x"s},
+      {.file = "e\u0301 cpu 4\n", .key = Key::cpu, .value = "u 4"},
+      {.file = "cpu \u0301\n", .key = Key::cpu, .value = "3"},
+      {.file = manyLines + "jitfpu 1\nfpu 2", .key = Key::fpu, .value = "pu 1"}};
+  for (const auto& [file, key, value] : rows) {
+    SCOPED_TRACE(file.substr(0, 40));
+    preferences.settings = Lines(file);
     preferences.lookUp(key);
     EXPECT_EQ(preferences.value(key), value);
-    EXPECT_EQ(said(), line + "\n");
   }
 }
 
-TEST_F(PreferencesTest, FirstRunInAHomeThatIsNoUrl) {
-  const std::string odd = home.path("\u00d6l 9%20?#");
-  fs::create_directory(odd);
-  Preferences opened(odd, output);
+TEST_F(PreferencesTest, MakesTheFirstFileInAHomeThatIsNoUrl) {
+  const std::string name = "\u00d6l 9%20?#";
+  fs::create_directory(home.path(name));
+  Preferences opened(home.path(name), output);
   opened.load();
-  EXPECT_EQ(home.read("\u00d6l 9%20?#/.quillon_prefs"), firstFile);
-  std::string sizes;
-  for (const std::string& line : opened.preferencesDefault) {
-    sizes += std::to_string(line.size()) + "\n";
-  }
-  EXPECT_EQ(said(), odd + "\n.quillon_prefs\nFailed reading from URL: file://" + home.path() +
-                        "/%C3%96l%209%2520%3F%23/.quillon_prefs, Error: \n\n" +
-                        platform::listText(opened.preferencesDefault) +
-                        "\nnewNoPrefs:\n Optional(\"seriala \")\n\n" + sizes);
+  EXPECT_EQ(home.read(name + "/" + fileName), tests::Model("").text());
+  EXPECT_NE(said().find("file://" + home.path() + "/%C3%96l%209%2520%3F%23/" + fileName),
+            std::string::npos);
   opened.lookUp(Key::cpu);
   EXPECT_EQ(said(), "No match for: cpu \n") << "the new file is not read back";
 }
 
-// Where a save and a copy of the file in the home folder go.
-TEST_F(PreferencesTest, Locations) {
+TEST_F(PreferencesTest, SavesAndCopiesToWhatIsAValidLocation) {
+  struct Row {
+    std::string location;
+    std::string target = {};  // below the home folder; empty: nothing is written
+  };
   const std::string path = home.path();
-  const std::string url = "file://" + path + "/";
-  std::vector<std::pair<std::string, std::string>> cases = {
-      {path + "/other/", "other"},
-      {"file://localhost" + path + "/other", "other"},
-      {"file:" + path + "/a#b?", "a#b?"},
-      {url + "a%20b/%C3%BC", "a b/\u00fc"}};
-  for (const std::string& invalid :
-       {path + "/a b/p", path + "/p\t", path + "/p%2g", "file://elsewhere" + path + "/p",
-        "//elsewhere" + path + "/p", "http:" + path + "/p", std::string("p"), std::string()}) {
-    cases.emplace_back(invalid, "none");
-  }
-  cases.emplace_back(path + "/a%20b/p", "a b/p");
+  const std::vector<Row> rows = {
+      {.location = path + "/other/", .target = "other"},
+      {.location = path + "/a%20b/p", .target = "a b/p"},
+      {.location = "file://localhost" + path + "/other", .target = "other"},
+      {.location = "file:" + path + "/a#b?", .target = "a#b?"},
+      {.location = "file://" + path + "/a%20b/%C3%BC", .target = "a b/\u00fc"},
+      {.location = path + "/a b/p"},
+      {.location = path + "/p\t"},
+      {.location = path + "/p%2g"},
+      {.location = "file://elsewhere" + path + "/p"},
+      {.location = "//elsewhere" + path + "/p"},
+      {.location = "http:" + path + "/p"},
+      {.location = "p"},
+      {.location = ""}};
   home.write("a b/x", "");
-  home.write(file, "cpu 4\n");
+  home.write(fileName, "cpu 4\n");
   preferences.load();
-  for (const auto& [text, target] : cases) {
-    SCOPED_TRACE(text);
-    const bool valid = target != "none";
-    preferences.setLocation(text);
+  const auto copied = [&] {
     said();
     preferences.copyToLocation();
-    EXPECT_EQ(said(), url + file + (valid ? "\n" : "\nProblem: Invalid argument\n"));
-    EXPECT_EQ(home.read(target), valid ? "cpu 4\n" : "");
-    EXPECT_EQ(preferences.save({}, ""), valid);
-    EXPECT_EQ(home.read(target).starts_with("extfs "), valid);
-    said();
-    preferences.copyToLocation();
-    EXPECT_EQ(said(),
-              url + file + "\nProblem: " + (valid ? "File exists\n" : "Invalid argument\n"));
-    fs::remove(home.path(target));
+    return said();
+  };
+  const std::string line = "file://" + path + "/" + fileName + "\n";
+  const std::string refused = line + "Problem: Invalid argument\n";
+  for (const auto& [location, target] : rows) {
+    SCOPED_TRACE(location);
+    preferences.setLocation(location);
+    if (target.empty()) {
+      EXPECT_EQ(copied(), refused);
+      EXPECT_FALSE(preferences.save({}, ""));
+    } else {
+      EXPECT_EQ(copied(), line);
+      EXPECT_EQ(home.read(target), "cpu 4\n");
+      EXPECT_TRUE(preferences.save({}, ""));
+      EXPECT_TRUE(home.read(target).starts_with("extfs "));
+      EXPECT_EQ(copied(), line + "Problem: File exists\n");
+      fs::remove(home.path(target));
+    }
   }
-  EXPECT_EQ(home.read(file), "cpu 4\n");
+  EXPECT_EQ(home.read(fileName), "cpu 4\n") << "the file in the home folder is left alone";
 }
 
 }  // namespace

@@ -51,35 +51,19 @@ TEST(Editing, IsToldAndSaved) {
 
 TEST(Editing, OfWhatTheFileBroughtOrWasTypedBefore) {
   OpenWindow window("screen win/1280/768\nramsize 1610612737\nframeskip 3\njitcachesize 1000\n");
+  const std::string sharedFolder(document::rowOf(Key::extfs).defaultValue);
+  // clang-format off
   const std::vector<Edit> inOrder = {
       {.control = "ramSizeMB", .chosen = 10, .said = "1048576\nnil\n1610612737\n"},
       {.control = "refreshRate", .chosen = 7, .said = "7\n3\n"},
-      {.control = "screenWidth",
-       .typed = "1152",
-       .said = "1152\n",
-       .values = {{Key::screen, "1152"}},
-       .screenPart = 1},
-      {.control = "screenWidth",
-       .chosen = 5,
-       .said = "1280\n",
-       .values = {{Key::screen, "1280"}},
-       .screenPart = 1},
-      {.control = "jitCache",
-       .typed = "4096",
-       .said = "4096\n",
-       .values = {{Key::jitcachesize, "4096"}}},
-      {.control = "jitCache",
-       .chosen = 4,
-       .said = "1000\n",
-       .values = {{Key::jitcachesize, "1000"}}},
-      {.control = "unixRootPath",
-       .typed = std::string(document::rowOf(Key::extfs).defaultValue),
-       .said = std::string(document::rowOf(Key::extfs).defaultValue) + "\n"},
+      {.control = "screenWidth", .typed = "1152", .said = "1152\n", .values = {{Key::screen, "1152"}}, .screenPart = 1},
+      {.control = "screenWidth", .chosen = 5, .said = "1280\n", .values = {{Key::screen, "1280"}}, .screenPart = 1},
+      {.control = "jitCache", .typed = "4096", .said = "4096\n", .values = {{Key::jitcachesize, "4096"}}},
+      {.control = "jitCache", .chosen = 4, .said = "1000\n", .values = {{Key::jitcachesize, "1000"}}},
+      {.control = "unixRootPath", .typed = sharedFolder, .said = sharedFolder + "\n"},
       {.control = "tunnelUDP", .clicked = State::mixed},
-      {.control = "enableJIT",
-       .clicked = State::mixed,
-       .said = "true\n",
-       .values = {{Key::jit, "true"}}}};
+      {.control = "enableJIT", .clicked = State::mixed, .said = "true\n", .values = {{Key::jit, "true"}}}};
+  // clang-format on
   for (const Edit& edit : inOrder) {
     SCOPED_TRACE(std::string(edit.control) + " " + edit.said);
     window.expectSaid(edit);

@@ -7,9 +7,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
+
+#include "tests/support/temporary_folder.h"
 
 namespace tests {
 
@@ -19,10 +20,9 @@ namespace tests {
 class Golden {
  public:
   Golden(const std::string& name, std::string home)
-      : path_(QUILLON_SOURCE "/tests/data/" + name), home_(std::move(home)) {
-    std::ifstream file(path_, std::ios::binary);
-    text_.assign(std::istreambuf_iterator<char>(file), {});
-  }
+      : path_(QUILLON_SOURCE "/tests/data/" + name),
+        home_(std::move(home)),
+        text_(dataFile(name)) {}
 
   [[nodiscard]] std::string section(const std::string& heading) const {
     const std::string line = "=== " + heading + "\n";

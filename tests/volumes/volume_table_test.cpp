@@ -10,75 +10,128 @@ namespace {
 using platform::Location;
 using Strings = std::vector<std::string>;
 
-struct VolumeTableTest : ::testing::Test {
+struct VolumeTableTest : testing::Test {
   tests::FakeHost host;
-  VolumeTable table{host.output, host.panels};
 
-  std::string cells(std::size_t row) {
-    std::string all;
-    for (const std::size_t column : {0U, 1U, 2U}) {
-      const auto made = table.viewFor(column, row).value_or(platform::TableCell());
-      all += made.identifier + "|" + made.text + "|" + made.image + "\n";
+  [[nodiscard]] Location at(const std::string& name) const {
+    return Location::fromPath(host.home.path(name));
+  }
+
+  /// Lists a file for each letter, as many bytes long as the letter's number.
+  void load(VolumeTable& table, const std::string& letters) {
+    std::vector<std::string> lines;
+    for (const char letter : letters) {
+      const auto size = static_cast<std::size_t>(letter - 'A' + 1);
+      lines.push_back("disk " + host.home.write(std::string(1, letter), std::string(size, 'x')));
     }
-    return all;
+    table.wire();
+    table.load({lines.begin(), lines.end()});
+    host.said();
+  }
+
+  /// The letters in the order of the list. Each entry must still have its own size.
+  static std::string orderOf(const VolumeTable& table) {
+    std::string letters;
+    for (const Location& location : table.volumes().volName()) {
+      const char letter = location.text().back();
+      EXPECT_EQ(table.volumes().volSize().at(letters.size()), letter - 'A' + 1);
+      letters += letter;
+    }
+    EXPECT_EQ(table.volumes().volLocal(), table.volumes().volName());
+    return letters;
   }
 };
 
-TEST_F(VolumeTableTest, LoadsLinesAndTellsOfEachStep) {
-  const std::string image = host.home.write("a 100%25.dsk", std::string(1474560, '\0'));
-  const std::string encoded = host.home.path() + "/a%20100%2525.dsk";
-  const std::string url = "file://" + encoded;
-  const Strings lines = {"#disk /x", "disk " + image, "disk ", "disk no:where/\u00fc\r"};
-  table.load({lines.begin(), lines.end()});
-  EXPECT_EQ(host.said(),
-            "resultsDisk: [\"#disk /x\", \"disk " + image + "\", \"disk \", \"" + lines[3] +
-                "\"]\ndrop prefix: " + image + "\nFile acutal: " + image +
-                "\npercent encoding: Optional(\"" + encoded + "\")\nescaped? " + url +
-                "\nvolURL: Optional(" + url + ")\nFile exists\nVolume size: [1474560]\nvolUrl: " +
-                url + "\nvolume Name: [" + url +
-                "]\nVolume Size: [1474560]\nvolume Type: [\"Disk Image\"]\n"
-                "drop prefix: \nFound disk entry with no file\n"
-                "drop prefix: no:where/\u00fc\r\nFile acutal: no:where/\u00fc\r\npercent encoding: "
-                "Optional(\"no:where/%C3%BC%0D\")\nvolURL local: no:where/\u00fc\r\n"
-                "File doesn't exist\nVolume Not Found 3!\nvolUrl: no%3Awhere/%C3%BC%0D\n"
-                "volume Name: [" +
-                url +
-                ", no%3Awhere/%C3%BC%0D]\nVolume Size: [1474560, 0]\n"
-                "volume Type: [\"Disk Image\", \"Not Found!\"]\n");
-  const std::string found =
-      "NameCell|" + image + "|HappyMac.png\nSizeCell|1.5 MB|\nKindCell|Disk Image|\n";
-  const std::string asked = "loCalmode volLocal\n" + url + "\n";
-  EXPECT_EQ(cells(0), found);
-  EXPECT_EQ(host.said(), asked + "url: " + url + "\ndisk table cell name: " + image + "\n" + asked +
-                             asked + "Debug: text.path for volume type: " + image + "\n");
-  EXPECT_TRUE(cells(1).ends_with("SizeCell|Zero KB|\nKindCell|No Path!|\n"));
-  table.tableView.selectRows({1, 0});
-  table.acceptDrop({"0"}, 2);
-  EXPECT_EQ(cells(1), found);
-  EXPECT_EQ(table.volumes().volType(), (Strings{"Not Found!", "Disk Image"}));
-  EXPECT_EQ(table.tableView.selectedRow(), 1U) << "the selection goes along";
+TEST_F(VolumeTableTest, DropsRowsAboveARow) {
+  struct Row {
+    Strings items;
+    std::size_t above;
+    std::string order;
+    std::vector<std::size_t> selected;  // of D and B, which were selected in this order
+  };
+  const std::vector<Row> rows = {
+      {.items = {"0"}, .above = 3, .order = "BCADE", .selected = {3, 0}},
+      {.items = {"3"}, .above = 0, .order = "DABCE", .selected = {0, 2}},
+      {.items = {"0", "2"}, .above = 4, .order = "BDACE", .selected = {1, 0}},
+      {.items = {"1", "3"}, .above = 1, .order = "ABDCE", .selected = {2, 1}},
+      {.items = {"2"}, .above = 5, .order = "ABDEC", .selected = {2, 1}},
+      {.items = {"2"}, .above = 99, .order = "ABDEC", .selected = {2, 1}},
+      {.items = {"7", "-1", "x", ""}, .above = 1, .order = "ABCDE", .selected = {3, 1}},
+      {.items = {}, .above = 2, .order = "ABCDE", .selected = {3, 1}}};
+  for (const auto& [items, above, order, selected] : rows) {
+    SCOPED_TRACE(platform::listText(items) + " above " + std::to_string(above));
+    VolumeTable table(host.output, host.panels);
+    load(table, "ABCDE");
+    table.tableView.selectRows({3, 1});
+    EXPECT_TRUE(table.acceptDrop(items, above));
+    EXPECT_EQ(orderOf(table), order);
+    EXPECT_EQ(table.tableView.selectedRows(), selected);
+    EXPECT_FALSE(table.viewFor(std::nullopt, 0)) << "it asks so after a drop, and reloads";
+  }
+}
+
+TEST_F(VolumeTableTest, TakesDropsBetweenRowsOnly) {
+  const VolumeTable table(host.output, host.panels);
   EXPECT_EQ(table.validateDrop(platform::DropOperation::above), platform::DragOperation::move);
   EXPECT_EQ(table.validateDrop(platform::DropOperation::on), platform::DragOperation::none);
 }
 
-TEST_F(VolumeTableTest, Adds) {
-  const auto at = [&](const char* name) { return Location::fromPath(host.home.path(name)); };
-  host.home.write("A", "1");
+TEST_F(VolumeTableTest, AddsWhatIsChosen) {
+  VolumeTable table(host.output, host.panels);
+  load(table, "A");
   host.home.write("B", "12");
-  host.panels.answers = {{at("A")}, {}, {at("B"), at("A"), at("gone")}};
-  std::string expected = "[1]\nallfiles: (volName) counter: " + at("A").text() +
-                         "\n[1, 2]\n[1, 2, 1]\nError: No such file or directory\n";
+  host.panels.answers = {{}, {at("B"), at("A"), at("gone")}};
+  table.browseFile.sendAction();
+  EXPECT_EQ(host.said(), "") << "a cancel adds nothing";
+  table.browseFile.sendAction();
+  std::string said = "[1, 2]\n[1, 2, 1]\nError: No such file or directory\n";
   for (const char* const name : {"A", "B", "A", "gone"}) {
-    expected += "allfiles: (volName) counter: " + at(name).text() + "\n";
-    table.browseFile.sendAction();
+    said += "allfiles: (volName) counter: " + at(name).text() + "\n";
   }
-  EXPECT_EQ(host.said(), expected);
-  EXPECT_EQ(host.panels.shown, "sheet Select a volume");
-  EXPECT_TRUE(host.panels.open.allowsMultipleSelection && host.panels.open.canChooseFiles);
-  EXPECT_FALSE(host.panels.open.canChooseDirectories || host.panels.open.showsHiddenFiles);
-  EXPECT_EQ(host.panels.open.allowedFileTypes.size(), 16U);
+  EXPECT_EQ(host.said(), said);
   EXPECT_EQ(table.volumes().volName(), (std::vector{at("A"), at("B"), at("A"), at("gone")}));
+  EXPECT_EQ(table.volumes().volSize(), (std::vector<std::int64_t>{1, 2, 1, 0}));
   EXPECT_EQ(table.volumes().volType(), Strings(4, "Disk Image"));
+  const platform::OpenPanel& panel = host.panels.open;
+  EXPECT_EQ(host.panels.shown, "sheet Select a volume");
+  EXPECT_TRUE(panel.allowsMultipleSelection && panel.canChooseFiles && panel.canCreateDirectories);
+  EXPECT_FALSE(panel.canChooseDirectories || panel.showsHiddenFiles);
+  EXPECT_EQ(platform::listText(panel.allowedFileTypes),
+            R"(["img", "dmg", "dsk", "image", "cdr", "iso", "toast", "sparsebundle", "sparse", )"
+            R"("dc42", "hfv", "hvf", "hfs", "ndif", "dk*", "cue"])");
+}
+
+TEST_F(VolumeTableTest, ReadsTheListThatTheMarkTells) {
+  VolumeTable table(host.output, host.panels);
+  load(table, "A");
+  EXPECT_TRUE(table.ronMode.isOn());
+  struct Row {
+    platform::State state;
+    std::string said;
+    std::string cell;
+  };
+  for (const auto& [state, said, cell] : std::initializer_list<Row>{
+           {.state = platform::State::off, .said = "0\nronMode off\n", .cell = "volRegular"},
+           {.state = platform::State::mixed, .said = "-1\n", .cell = "volRegular"},
+           {.state = platform::State::on, .said = "1\nronMode on\n", .cell = "volLocal"}}) {
+    const std::size_t before = table.tableView.revision();
+    table.ronMode.setState(state);
+    table.ronMode.sendAction();
+    EXPECT_EQ(host.said(), said);
+    EXPECT_EQ(table.tableView.revision() - before, state == platform::State::mixed ? 0U : 1U);
+    table.viewFor(1, 0);
+    EXPECT_EQ(host.said(), "loCalmode " + cell + "\n" + at("A").text() + "\n");
+  }
+}
+
+TEST_F(VolumeTableTest, OnlyTellsThePlaceOfTheSavePanel) {
+  VolumeTable table(host.output, host.panels);
+  host.panels.answers = {{}, {at("new.dsk")}};
+  table.sheetCreate.sendAction();
+  table.sheetCreate.sendAction();
+  EXPECT_EQ(host.said(), at("new.dsk").text() + "\n");
+  EXPECT_EQ(host.panels.shown, "save sheet Create a new blank volume");
+  EXPECT_EQ(table.numberOfRows(), 0U);
 }
 
 }  // namespace
