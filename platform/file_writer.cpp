@@ -1,6 +1,8 @@
 #include "platform/file_writer.h"
 
 #include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -111,6 +113,22 @@ FileWriter FileWriter::create(const std::string& path) {
   writer.open(O_RDWR | O_CREAT | O_EXCL);
   writer.isNew_ = writer.file_.isOpen();
   return writer;
+}
+
+void FileWriter::lock() {
+  constexpr int pauseMilliseconds = 10;
+  const auto isTaken = [this] {
+    return retried([this] { return ::flock(file_.get(), LOCK_EX | LOCK_NB); }) != 0 &&
+           errno == EWOULDBLOCK;
+  };
+  for (int pauses = 1000 / pauseMilliseconds; !error_ && pauses > 0 && isTaken(); --pauses) {
+    ::poll(nullptr, 0, pauseMilliseconds);
+  }
+  if (!error_) {
+    // Who had the lock may have left another length, and has filled a file that we created.
+    error_ = file_.measure();
+    isNew_ = isNew_ && file_.size() == 0;
+  }
 }
 
 void FileWriter::keep(std::uintmax_t length) {

@@ -20,11 +20,12 @@ class FileWriter {
   /// Creates the file; fails with `file_exists` where anything is, be it a link into nowhere.
   static FileWriter create(const std::string& path);
 
-  /// Whether `create` or `openOrCreate` made the file and nobody has filled it since.
-  [[nodiscard]] bool isNew() const { return isNew_; }
-  /// Bytes in the file before the first one was written.
+  /// Bytes in the file when it was opened or locked.
   [[nodiscard]] std::uintmax_t size() const { return file_.size(); }
 
+  /// Takes turns with other programs that rewrite the file in this way. After a second it is done
+  /// all the same: a program that hangs must not keep others from saving.
+  void lock();
   /// Keeps the first `length` bytes in memory, to put them back if a later step fails. A file that
   /// may be written and not read stays unprotected.
   void keep(std::uintmax_t length);

@@ -27,6 +27,7 @@ std::string padded(std::string_view content, std::uintmax_t length) {
 }
 
 std::error_code replaceContent(FileWriter file, std::string_view content) {
+  file.lock();
   const std::string lines = padded(content, file.size());
   file.keep(lines.size());
   file.reserve(content.size());

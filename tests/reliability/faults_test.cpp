@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -10,11 +11,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdarg>
 #include <random>
+#include <thread>
 
 #include "editor/view_controller.h"
+#include "platform/descriptor.h"
 #include "platform/files.h"
 #include "tests/support/fake_host.h"
 #include "tests/support/model.h"
@@ -291,6 +295,35 @@ TEST(Faults, WhatChangesBetweenCheckAndUseIsNoticed) {
     EXPECT_EQ(save.with({"open", 0, 1, Fault::once, change, 0, false}), row.saved);
     EXPECT_TRUE(!row.saved || save.host.home.read(FakeHost::prefs) == save.wanted);
   }
+}
+
+TEST(Collision, TheSecondOfTwoSavesWaitsForTheFirst) {
+  const tests::TemporaryFolder folder;
+  const std::string first(100'000, '1');
+  const std::string second(150'000, '2');
+  const std::string path = folder.write("prefs", std::string(120'000, '0'));
+  std::thread other;
+  const auto saveBeside = [&] {
+    fault().call = {};
+    other = std::thread([&] { EXPECT_FALSE(platform::writeFile(path, second)); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  };
+  fault() = {.call = "pwrite", .due = 2, .change = saveBeside, .halves = true};
+  EXPECT_FALSE(platform::writeFile(path, first));
+  other.join();
+  fault() = {};
+  EXPECT_TRUE(folder.read("prefs") == second);
+}
+
+TEST(Collision, ALockThatIsNeverGivenBackKeepsNobodyFromSaving) {
+  const tests::TemporaryFolder folder;
+  const std::string path = folder.write("prefs", "old");
+  const platform::Descriptor holder(::open(path.c_str(), O_RDONLY));
+  ASSERT_EQ(::flock(holder.get(), LOCK_EX), 0);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_FALSE(platform::writeFile(path, "new"));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+  EXPECT_EQ(folder.read("prefs"), "new");
 }
 
 TEST(Kill, InTheMiddleOfASaveLeavesTheOldOrTheNewLines) {
