@@ -76,4 +76,8 @@ std::vector<std::string_view> Lines::allContaining(std::string_view part) const 
   return lines;
 }
 
+std::string_view withoutReturn(std::string_view line) {
+  return line.substr(0, line.size() - (line.ends_with('\r') ? 1 : 0));
+}
+
 }  // namespace document

@@ -32,4 +32,7 @@ class Lines {
   std::vector<std::size_t> wordEnds_;
 };
 
+/// A line without its last byte where that is the carriage return of a CR LF line end.
+std::string_view withoutReturn(std::string_view line);
+
 }  // namespace document

@@ -84,7 +84,7 @@ void Preferences::lookUp(Key key, std::string_view foundLabel) {
   if (const auto found = settings.firstContaining(match)) {
     output_.print(foundLabel, *found);
     // A key text is ASCII: as many characters as bytes.
-    const std::string_view rest = platform::dropCharacters(*found, match.size());
+    const std::string_view rest = platform::dropCharacters(withoutReturn(*found), match.size());
     if (!rest.empty()) {
       value = rest;
     }

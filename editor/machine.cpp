@@ -59,12 +59,13 @@ void RomSetting::lookUp() {
     print(key, " setting has value: ", line);
   } else {
     print("Setting for rom is: -", matches.front(), "-");
-    const std::string_view rest = platform::dropCharacters(matches.front(), key.size());
+    const std::string_view match = document::withoutReturn(matches.front());
+    const std::string_view rest = platform::dropCharacters(match, key.size());
     if (rest.empty()) {
       print("Setting has no value, newprefs: ", line);
     } else {
       found = rest;
-      line = matches.front();
+      line = match;
       print("Setting has value: ", line);
     }
   }

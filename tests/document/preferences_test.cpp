@@ -36,6 +36,8 @@ TEST_F(PreferencesTest, FindsTheFirstLineThatHoldsTheKey) {
       {.file = "CPU 4\n", .key = Key::cpu, .value = "3"},
       {.file = "bootdriver 7\nbootdrive 1", .key = Key::bootdrive, .value = "1"},
       {.file = "udpport \nudpport 7\n", .key = Key::udpport, .value = "6066"},
+      {.file = "cpu 4\r\r\n", .key = Key::cpu, .value = "4\r"},
+      {.file = "udpport \r\n", .key = Key::udpport, .value = "6066"},
       {.file = "cpu 4\0x\n"s, .key = Key::cpu, .value = "4\0x"s},
       {.file = "e\u0301 cpu 4\n", .key = Key::cpu, .value = "u 4"},
       {.file = "cpu \u0301\n", .key = Key::cpu, .value = "3"},

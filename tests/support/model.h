@@ -102,9 +102,10 @@ struct Model {
   static std::string found(const std::vector<std::string>& lines, const document::KeyRow& row) {
     for (const std::string& line : lines) {
       if (line.find(row.text) != std::string::npos) {
-        const auto value = platform::dropCharacters(line, row.text.size());
+        const std::string text = line.back() == '\r' ? line.substr(0, line.size() - 1) : line;
+        const std::string value(platform::dropCharacters(text, row.text.size()));
         const bool other = row.key == Key::rom && line.find("nocdrom") != std::string::npos;
-        return std::string(other || value.empty() ? row.defaultValue : value);
+        return other || value.empty() ? std::string(row.defaultValue) : value;
       }
     }
     return std::string(row.defaultValue);
