@@ -1,7 +1,7 @@
 # The window: the room desktop/, the program on top of all rooms, and its bundle.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets LinguistTools)
 
-add_room(desktop PUBLIC editor app volumes document platform Qt6::Widgets)
+add_room(desktop PUBLIC checks editor app volumes document platform Qt6::Widgets)
 set_target_properties(desktop PROPERTIES AUTOMOC ON)
 
 set(bundle ${CMAKE_BINARY_DIR}/QuillonSettings.app)

@@ -27,7 +27,7 @@ std::string Preferences::line(Key key, std::string_view value) {
   return std::string(prefs[indexOf(key)]).append(value);
 }
 
-void Preferences::load() {
+void Preferences::load(IfMissing ifMissing) {
   output_.print(dir);
   output_.print(fileName);
   prefsURL = platform::Location::fromPath(dir + "/" + fileName);
@@ -39,7 +39,7 @@ void Preferences::load() {
     readFile();
   }
   output_.print(prefsPath);
-  if (noprefsfile) {
+  if (noprefsfile && ifMissing == IfMissing::create) {
     createFile();
   }
 }
@@ -48,6 +48,8 @@ void Preferences::readFile() {
   prefsPath = prefsURL->path();
   output_.print(prefsURL->text());
   output_.print(prefsPath);
+  // Before the reading: what is written meanwhile counts as a change.
+  stamp_ = platform::stampOf(prefsPath);
   std::error_code error;
   if (auto text = platform::readTextFile(prefsPath, error)) {
     settings = Lines(*std::move(text));
@@ -72,6 +74,7 @@ void Preferences::createFile() {
     readError_ = error.message();
   }
   if (!error) {
+    stamp_ = platform::stampOf(prefsURL->path());
     for (const std::string& written : preferencesDefault) {
       output_.print(std::to_string(written.size()));
     }
@@ -81,7 +84,8 @@ void Preferences::createFile() {
 void Preferences::lookUp(Key key, std::string_view foundLabel) {
   const std::string_view match = prefs[indexOf(key)];
   std::string value(defaults[indexOf(key)]);
-  if (const auto found = settings.firstContaining(match)) {
+  const auto found = settings.firstContaining(match);
+  if (found) {
     output_.print(foundLabel, *found);
     // A key text is ASCII: as many characters as bytes.
     const std::string_view rest = platform::dropCharacters(withoutReturn(*found), match.size());
@@ -91,6 +95,7 @@ void Preferences::lookUp(Key key, std::string_view foundLabel) {
   } else {
     output_.print("No match for: ", match);
   }
+  noteFound(key, found, value);
   newPrefs[indexOf(key)] = line(key, value);
   prefSet[indexOf(key)] = std::move(value);
 }
@@ -105,6 +110,11 @@ std::vector<std::string> Preferences::composedLines(
     lines.push_back(line(row.key, values[indexOf(row.key)]));
   }
   return lines;
+}
+
+void Preferences::noteFound(Key key, std::optional<std::string_view> line, std::string_view value) {
+  foundLines_[indexOf(key)] = line;
+  fileValues_[indexOf(key)] = value;
 }
 
 std::string Preferences::composed(const std::vector<std::string>& disks,
@@ -122,20 +132,41 @@ bool Preferences::save(const std::vector<std::string>& disks, std::string_view f
   output_.print("newFileOutput test: ", platform::optionalText(prefsURL2));
   const std::string text = joined(preferences);
   output_.print(text);
-  const bool saved = prefsURL && prefsURL->isFile() && !platform::writeFile(prefsURL->path(), text);
-  if (saved) {
-    readError_.clear();
-  } else {
+  const std::error_code error = write(text);
+  if (error) {
+    saveError_ = error.message();
     output_.print("couldn't save prefs file");
+  } else {
+    noteSaved();
   }
   output_.print(finalMessage);
   output_.print(platform::listText(preferences));
-  return saved;
+  return !error;
+}
+
+std::error_code Preferences::write(const std::string& text) {
+  return prefsURL && prefsURL->isFile() ? platform::writeFile(prefsURL->path(), text)
+                                        : std::make_error_code(std::errc::invalid_argument);
+}
+
+void Preferences::noteSaved() {
+  readError_.clear();
+  saveError_.clear();
+  stamp_ = platform::stampOf(prefsURL->path());
+  for (std::size_t index = 0; index < keyCount; ++index) {
+    if (fileValues_[index] != prefSet[index]) {
+      foundLines_[index].reset();
+      fileValues_[index] = prefSet[index];
+    }
+  }
 }
 
 void Preferences::setLocation(std::string_view text) {
   if (!prefsURL || prefsURL->path() != text) {
     prefsURL = platform::Location::fromText(text);
+    // Nothing was read or written there yet.
+    stamp_.reset();
+    saveError_.clear();
   }
 }
 

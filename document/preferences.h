@@ -4,10 +4,12 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "document/key_table.h"
 #include "document/lines.h"
+#include "platform/file_stamp.h"
 #include "platform/location.h"
 #include "platform/output.h"
 
@@ -22,16 +24,37 @@ class Preferences {
   Preferences(const Preferences&) = delete;
   Preferences& operator=(const Preferences&) = delete;
 
+  /// What to do about a file that is not there.
+  enum class IfMissing { create, leave };
+
   /// Reads the file in the home directory, or writes one with the defaults when there is none.
-  void load();
+  void load(IfMissing ifMissing = IfMissing::create);
 
   /// Why the file that is there could not be read; empty when it was read or written. The next
   /// save replaces it all the same.
   [[nodiscard]] const std::string& readError() const { return readError_; }
 
+  /// Why the last save failed; empty when it did not.
+  [[nodiscard]] const std::string& saveError() const { return saveError_; }
+
+  /// The file as it was when it was read or written last; none when it was not.
+  [[nodiscard]] const std::optional<platform::FileStamp>& stamp() const { return stamp_; }
+
   /// Finds the value of a key in the lines read, its default else, and makes it the current one.
   /// `foundLabel` begins the diagnostic line about a line that was found.
   void lookUp(Key key, std::string_view foundLabel = "results: ");
+
+  /// Notes what a lookup found: the line, if any, and the value that counts as the file's.
+  void noteFound(Key key, std::optional<std::string_view> line, std::string_view value);
+
+  /// The line that the value of a key was found in; none when there was none, or since a save has
+  /// written another value.
+  [[nodiscard]] const std::optional<std::string>& foundLine(Key key) const {
+    return foundLines_[indexOf(key)];
+  }
+
+  /// The value of a key in the file, as it was found or has been saved since.
+  [[nodiscard]] const std::string& fileValue(Key key) const { return fileValues_[indexOf(key)]; }
 
   /// The current value of a key, as the next save writes it.
   [[nodiscard]] const std::string& value(Key key) const { return prefSet[indexOf(key)]; }
@@ -72,9 +95,15 @@ class Preferences {
   void createFile();
   [[nodiscard]] static std::vector<std::string> composedLines(
       const std::vector<std::string>& disks, const std::array<std::string, keyCount>& values);
+  std::error_code write(const std::string& text);
+  void noteSaved();
 
   platform::Output& output_;
   std::string readError_;
+  std::string saveError_;
+  std::optional<platform::FileStamp> stamp_;
+  std::array<std::optional<std::string>, keyCount> foundLines_;
+  std::array<std::string, keyCount> fileValues_;
 };
 
 }  // namespace document

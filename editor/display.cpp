@@ -12,6 +12,7 @@ namespace {
 
 // The largest size there is: a word for people, a number in the file.
 constexpr std::string_view windowType = "win";
+constexpr std::string_view fullScreenType = "dga";
 constexpr std::string_view maximumWord = "Maximum";
 constexpr std::string_view maximumValue = "0";
 constexpr std::size_t maximumIndex = 4;
@@ -74,7 +75,7 @@ void ScreenSetting::showParts() {
   if (screensep_[type] == windowType) {
     screenType.selectItem(0);
   } else {
-    screensep_[type] = "dga";
+    screensep_[type] = fullScreenType;
     screenType.selectItem(1);
   }
   showSize(width, screenWidth, screenhoriz_);
@@ -103,6 +104,22 @@ ScreenSetting::Parts ScreenSetting::shownDefaultParts() const {
   return parts;
 }
 
+bool ScreenSetting::knows(std::string_view value) const {
+  const Parts parts = partsOf(value);
+  const auto isSize = [](const std::string& size) {
+    const auto pixels = platform::parseInt32(size);
+    return pixels && *pixels >= 0;
+  };
+  return std::count(value.begin(), value.end(), '/') == 2 &&
+         (parts[type] == windowType || parts[type] == fullScreenType) && isSize(parts[width]) &&
+         isSize(parts[height]);
+}
+
+std::vector<std::string> ScreenSetting::shown() const {
+  return {screenType.items().at(screenType.indexOfSelectedItem().value_or(0)),
+          screenWidth.stringValue(), screenHeight.stringValue()};
+}
+
 void ScreenSetting::showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
   const std::string& size = screensep_[part];
   auto found = std::find(sizes.begin(), sizes.end(), size);
@@ -118,7 +135,7 @@ void ScreenSetting::showSize(Part part, platform::ComboBox& box, std::vector<std
 void ScreenSetting::videoType() {
   const std::size_t index = screenType.indexOfSelectedItem().value_or(0);
   print(std::to_string(index));
-  screensep_[type] = index == 0 ? windowType : "dga";
+  screensep_[type] = index == 0 ? windowType : fullScreenType;
   print(screensep_[type]);
 }
 
@@ -163,6 +180,10 @@ std::size_t RefreshRateSetting::entryOf(std::string_view value) const {
   const auto* const rate = std::find_if(
       rates.begin(), rates.end(), [&](const Rate& known) { return known.frameskip == frameskip; });
   return static_cast<std::size_t>(rate - rates.begin());
+}
+
+bool RefreshRateSetting::knows(std::string_view value) const {
+  return entryOf(value) < rates.size();
 }
 
 void RefreshRateSetting::fill() {

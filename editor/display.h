@@ -23,6 +23,8 @@ class ScreenSetting : public Setting {
   void join();
 
   [[nodiscard]] std::string valueToSave() const override;
+  [[nodiscard]] bool knows(std::string_view value) const override;
+  [[nodiscard]] std::vector<std::string> shown() const override;
 
   using Parts = std::array<std::string, 3>;
 
@@ -55,6 +57,8 @@ class ScreenSetting : public Setting {
 class RefreshRateSetting : public PopUpSetting {
  public:
   explicit RefreshRateSetting(ControlGroup& group);
+
+  [[nodiscard]] bool knows(std::string_view value) const override;
 
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;

@@ -23,6 +23,10 @@ class MouseWheelSetting : public PopUpSetting {
  public:
   explicit MouseWheelSetting(ControlGroup& group);
 
+  [[nodiscard]] bool knows(std::string_view value) const override {
+    return value == "0" || value == "1";
+  }
+
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
   void fill() override;

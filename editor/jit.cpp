@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/text.h"
+
 namespace editor {
 
 JitCacheSetting::JitCacheSetting(ControlGroup& group)
@@ -14,6 +16,11 @@ void JitCacheSetting::fill() {
   }
   box.addItems(jitCacheSizes_);
   select(value());
+}
+
+bool JitCacheSetting::knows(std::string_view value) const {
+  const auto kilobytes = platform::parseInt32(value);
+  return kilobytes && *kilobytes > 0;
 }
 
 void JitCacheSetting::jitCachSize() {

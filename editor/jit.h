@@ -11,6 +11,8 @@ class JitCacheSetting : public ComboBoxSetting {
  public:
   explicit JitCacheSetting(ControlGroup& group);
 
+  [[nodiscard]] bool knows(std::string_view value) const override;
+
  protected:
   void fill() override;
   void showValue() override { select(value()); }

@@ -70,6 +70,9 @@ void RomSetting::lookUp() {
     }
   }
   setValue(found);
+  const bool isRomLine = !matches.empty() && !isCdromLine;
+  group().preferences.noteFound(Key::rom, isRomLine ? std::optional(matches.front()) : std::nullopt,
+                                found);
   group().preferences.newPrefs[indexOf(Key::rom)] = line;
   print("Rom Final Setting: ", line);
 }
@@ -113,6 +116,11 @@ void RamSizeSetting::fill() {
 
 std::string RamSizeSetting::shownDefault() const {
   return memoryText(platform::parseInt64(row().defaultValue).value_or(0));
+}
+
+bool RamSizeSetting::knows(std::string_view value) const {
+  const auto bytes = platform::parseInt64(value);
+  return bytes && *bytes > 0;
 }
 
 void RamSizeSetting::showStoredSize() {
@@ -187,6 +195,10 @@ std::size_t ProcessorSetting::entryOf(std::string_view cpu, std::string_view fpu
       processors.begin(), processors.end(),
       [&](const Processor& processor) { return processor.cpu == cpu && processor.fpu == fpu; });
   return static_cast<std::size_t>(found - processors.begin());
+}
+
+bool ProcessorSetting::knowsProcessor(std::string_view cpu) const {
+  return !knows(value()) || entryOf(cpu, value()) < processors.size();
 }
 
 // Such a pair leaves the button as it is.

@@ -21,6 +21,10 @@ class BootDriveSetting : public PopUpSetting {
  public:
   explicit BootDriveSetting(ControlGroup& group);
 
+  [[nodiscard]] bool knows(std::string_view value) const override {
+    return value == "0" || value == "1";
+  }
+
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
   void fill() override;
@@ -36,6 +40,8 @@ class RamSizeSetting : public ComboBoxSetting {
   explicit RamSizeSetting(ControlGroup& group);
 
   [[nodiscard]] std::string shownDefault() const override;
+  [[nodiscard]] bool knows(std::string_view value) const override;
+  [[nodiscard]] std::vector<std::string> shown() const override { return {box.stringValue()}; }
 
  protected:
   void showValue() override { showStoredSize(); }
@@ -56,6 +62,10 @@ class ModelSetting : public PopUpSetting {
  public:
   explicit ModelSetting(ControlGroup& group);
 
+  [[nodiscard]] bool knows(std::string_view value) const override {
+    return value == "5" || value == "14";
+  }
+
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
   void chosen(std::size_t index) override { modelID(index); }
@@ -71,6 +81,11 @@ class ProcessorSetting : public PopUpSetting {
   explicit ProcessorSetting(ControlGroup& group);
 
   [[nodiscard]] Key explainedKey() const override { return Key::cpu; }
+  [[nodiscard]] bool knows(std::string_view value) const override {
+    return value == "true" || value == "false";
+  }
+  /// Whether there is an entry for a processor with the present value of this key.
+  [[nodiscard]] bool knowsProcessor(std::string_view cpu) const;
   [[nodiscard]] std::string shownDefault() const override;
 
  protected:
@@ -84,6 +99,21 @@ class ProcessorSetting : public PopUpSetting {
   void cpuType(std::size_t index);
 };
 
+/// The processor's own key. The button of the other one shows both.
+class CpuSetting : public Setting {
+ public:
+  CpuSetting(ControlGroup& group, const ProcessorSetting& button)
+      : Setting(group, Key::cpu, {.form = Announcement::Form::value}), button_(button) {}
+
+  [[nodiscard]] bool knows(std::string_view value) const override {
+    return button_.knowsProcessor(value);
+  }
+  [[nodiscard]] std::vector<std::string> shown() const override { return button_.shown(); }
+
+ private:
+  const ProcessorSetting& button_;
+};
+
 /// What the emulated machine consists of.
 class MachineGroup : public ControlGroup {
  public:
@@ -95,8 +125,8 @@ class MachineGroup : public ControlGroup {
   Setting bootdriver{*this, Key::bootdriver};
   RamSizeSetting ramSizeMB{*this};
   ModelSetting modelID{*this};
-  Setting cpu{*this, Key::cpu, {.form = Announcement::Form::value}};
   ProcessorSetting cpuType{*this};
+  CpuSetting cpu{*this, cpuType};
   CheckBoxSetting stateCDROM{*this,
                              Key::nocdrom,
                              CheckBoxSetting::Echo::stateOnOff,

@@ -84,6 +84,12 @@ class Setting {
   /// The default as a person sees it in the control.
   [[nodiscard]] virtual std::string shownDefault() const { return std::string(row().defaultValue); }
 
+  /// Whether the control has a way to show a value.
+  [[nodiscard]] virtual bool knows(std::string_view /*value*/) const { return true; }
+
+  /// What the control shows now, in one or more parts.
+  [[nodiscard]] virtual std::vector<std::string> shown() const { return {value()}; }
+
   /// The value that a save would write now.
   [[nodiscard]] virtual std::string valueToSave() const { return value(); }
 

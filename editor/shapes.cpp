@@ -17,10 +17,17 @@ CheckBoxSetting::CheckBoxSetting(ControlGroup& group, Key key, Echo echo, Announ
 
 void CheckBoxSetting::fill() { box.setOn(value() != "false"); }
 
-std::string CheckBoxSetting::shownDefault() const {
-  return row().defaultValue == "false" ? platform::translatable("Help", "off")
-                                       : platform::translatable("Help", "on");
+namespace {
+
+const char* wordFor(bool isOn) {
+  return isOn ? platform::translatable("Help", "on") : platform::translatable("Help", "off");
 }
+
+}  // namespace
+
+std::string CheckBoxSetting::shownDefault() const { return wordFor(row().defaultValue != "false"); }
+
+std::vector<std::string> CheckBoxSetting::shown() const { return {wordFor(box.isOn())}; }
 
 void CheckBoxSetting::clicked() {
   if (box.state() == platform::State::mixed && echo_ != Echo::truth) {
@@ -90,6 +97,11 @@ StepperSetting::StepperSetting(ControlGroup& group, Key key, std::string stepper
   stepper.action = [this] { stepped(); };
 }
 
+bool StepperSetting::knows(std::string_view value) const {
+  const auto number = platform::parseInt32(value);
+  return number && *number >= stepper.range().minimum && *number <= stepper.range().maximum;
+}
+
 void StepperSetting::fill() {
   field.setStringValue(value());
   if (const auto number = platform::parseInt32(value())) {
@@ -114,6 +126,10 @@ PopUpSetting::PopUpSetting(ControlGroup& group, Key key, const std::vector<std::
 
 std::string PopUpSetting::shownDefault() const {
   return button.items().at(entryOf(row().defaultValue));
+}
+
+std::vector<std::string> PopUpSetting::shown() const {
+  return {button.items().at(button.indexOfSelectedItem().value_or(0))};
 }
 
 FileButton::FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels)

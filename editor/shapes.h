@@ -23,6 +23,10 @@ class CheckBoxSetting : public Setting {
   platform::Button box;
 
   [[nodiscard]] std::string shownDefault() const override;
+  [[nodiscard]] bool knows(std::string_view value) const override {
+    return value == "true" || value == "false";
+  }
+  [[nodiscard]] std::vector<std::string> shown() const override;
 
  protected:
   void fill() override;
@@ -76,6 +80,8 @@ class StepperSetting : public Setting {
   platform::TextField field;
   platform::Stepper stepper;
 
+  [[nodiscard]] bool knows(std::string_view value) const override;
+
  protected:
   void fill() override;
 
@@ -94,9 +100,10 @@ class PopUpSetting : public Setting {
   platform::PopUpButton button;
 
   [[nodiscard]] std::string shownDefault() const override;
+  [[nodiscard]] std::vector<std::string> shown() const override;
 
  protected:
-  /// The entry that stands for a value.
+  /// The entry that is shown for a value.
   [[nodiscard]] virtual std::size_t entryOf(std::string_view value) const = 0;
   void fill() override { button.selectItem(entryOf(value())); }
   virtual void chosen(std::size_t index) = 0;

@@ -32,13 +32,13 @@ void ViewController::connectActions() {
   isQuit.action = [this] { host_.application.terminate(); };
 }
 
-void ViewController::viewDidLoad() {
+void ViewController::viewDidLoad(document::Preferences::IfMissing ifMissing) {
   volumes.wire();
   host_.notifications.addObserver("NotificationID", [this] { isStartEnabled(); });
   const std::string storedLocation = loadFrontEndSettings();
   host_.output.print("Prefs: ", storedLocation);
   host_.output.print("QuilLocal?: ", sharedVar::localPath->path());
-  preferences.load();
+  preferences.load(ifMissing);
   filename_field.setStringValue(preferences.prefsPath);
   for (Setting* const setting : settingsInKeyOrder()) {
     setting->load();

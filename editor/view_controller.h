@@ -34,7 +34,8 @@ class ViewController {
 
   /// The start-up sequence: reads everything and fills every control. Once, before the window is
   /// shown.
-  void viewDidLoad();
+  void viewDidLoad(
+      document::Preferences::IfMissing ifMissing = document::Preferences::IfMissing::create);
 
   /// Becomes the delegate of the window that is about to be shown.
   void viewWillAppear(platform::Window& window);

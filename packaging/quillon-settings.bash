@@ -1,2 +1,2 @@
 # shellcheck shell=bash
-complete -W '--start --help --version' quillon-settings
+complete -W '--start --check --help --version' quillon-settings

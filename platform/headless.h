@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/application.h"
+#include "platform/output.h"
 #include "platform/panels.h"
 
 namespace platform {
@@ -11,6 +12,12 @@ class NoApplication : public Application {
   void terminate() override {}
   void exitNow() override {}
   void makeFirstResponder(TextField& /*field*/) override {}
+};
+
+/// The diagnostics where nobody reads them.
+class NoOutput : public Output {
+ private:
+  void write(std::initializer_list<std::string_view> /*parts*/) override {}
 };
 
 /// The panels where nothing is shown: nobody chooses anything.

@@ -12,9 +12,11 @@ struct Option {
   std::string_view help;
 };
 
-constexpr std::array<Option, 3> options = {
+constexpr std::array<Option, 4> options = {
     {{"--start", CommandLine::Task::start,
       "save the preferences, start Quillon and end; show no window"},
+     {"--check", CommandLine::Task::check,
+      "tell what keeps Quillon from starting and what else deserves a look"},
      {"--help", CommandLine::Task::help, "show this text"},
      {"--version", CommandLine::Task::version, "show the version"}}};
 

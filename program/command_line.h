@@ -7,7 +7,7 @@ namespace program {
 
 /// What the program was asked to do.
 struct CommandLine {
-  enum class Task { showWindow, start, help, version, refuse };
+  enum class Task { showWindow, start, check, help, version, refuse };
 
   Task task = Task::showWindow;
   std::string refused;  // the argument that nobody knows

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "desktop/run.h"
+#include "program/check_command.h"
 #include "program/command_line.h"
 #include "program/start_command.h"
 
@@ -66,10 +67,13 @@ int main(int argc, char** argv) {
     return 0;
   }
 
-  platform::DescriptorOutput output(STDOUT_FILENO);
   const platform::Bundle bundle = platform::Bundle::mainBundle();
   const std::string home = homeDirectory();
   const std::string config = configHome(home);
+  if (line.task == program::CommandLine::Task::check) {
+    return program::checkWithoutWindow(home, config, bundle);
+  }
+  platform::DescriptorOutput output(STDOUT_FILENO);
   return line.task == program::CommandLine::Task::start
              ? program::startWithoutWindow(home, config, bundle, output)
              : desktop::run(argc, argv, {home, config, bundle, output, QUILLON_VERSION});

@@ -2,6 +2,169 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Checks</name>
+    <message>
+        <source>The disk image &quot;%1&quot; is missing.</source>
+        <translation>Das Festplattenabbild „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 disk images are missing: %3.</source>
+        <translation>%1 von %2 Festplattenabbildern fehlen: %3.</translation>
+    </message>
+    <message>
+        <source>The disk image &quot;%1&quot; is a folder.</source>
+        <translation>Das Festplattenabbild „%1“ ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 disk images are folders: %3.</source>
+        <translation>%1 von %2 Festplattenabbildern sind Ordner: %3.</translation>
+    </message>
+    <message>
+        <source>The disk image &quot;%1&quot; is empty.</source>
+        <translation>Das Festplattenabbild „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 disk images are empty: %3.</source>
+        <translation>%1 von %2 Festplattenabbildern sind leer: %3.</translation>
+    </message>
+    <message>
+        <source>The disk image &quot;%1&quot; cannot be written to.</source>
+        <translation>In das Festplattenabbild „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 disk images cannot be written to: %3.</source>
+        <translation>In %1 von %2 Festplattenabbildern kann nicht geschrieben werden: %3.</translation>
+    </message>
+    <message>
+        <source>There is no disk image in the list.</source>
+        <translation>In der Liste steht kein Festplattenabbild.</translation>
+    </message>
+    <message>
+        <source>%1 disk images are one and the same file, which two writers would damage: %2.</source>
+        <translation>%1 Festplattenabbilder sind ein und dieselbe Datei, die durch zweifaches Schreiben beschädigt würde: %2.</translation>
+    </message>
+    <message>
+        <source>Start is disabled: choose where Quillon is in Edit &gt; Preferences.</source>
+        <translation>„Starten“ ist deaktiviert: Wählen Sie unter „Bearbeiten &gt; Programmeinstellungen“, wo sich Quillon befindet.</translation>
+    </message>
+    <message>
+        <source>Quillon is set to be nowhere: choose where it is in Edit &gt; Preferences.</source>
+        <translation>Für Quillon ist kein Ort festgelegt: Wählen Sie unter „Bearbeiten &gt; Programmeinstellungen“, wo es sich befindet.</translation>
+    </message>
+    <message>
+        <source>Quillon is not at &quot;%1&quot;: nothing is there.</source>
+        <translation>Quillon ist nicht unter „%1“: Dort ist nichts.</translation>
+    </message>
+    <message>
+        <source>Quillon is not at &quot;%1&quot;: what is there holds no program.</source>
+        <translation>Quillon ist nicht unter „%1“: Was dort ist, enthält kein Programm.</translation>
+    </message>
+    <message>
+        <source>No ROM file is chosen.</source>
+        <translation>Es ist keine ROM-Datei gewählt.</translation>
+    </message>
+    <message>
+        <source>The ROM file &quot;%1&quot; is missing.</source>
+        <translation>Die ROM-Datei „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The ROM file &quot;%1&quot; is a folder.</source>
+        <translation>Die ROM-Datei „%1“ ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>The ROM file &quot;%1&quot; is %2 bytes large and most likely no ROM: those are 64, 128, 256 or 512 KB, 1, 2 or 4 MB large.</source>
+        <translation>Die ROM-Datei „%1“ ist %2 Byte groß und sehr wahrscheinlich kein ROM: Solche sind 64, 128, 256 oder 512 KB, 1, 2 oder 4 MB groß.</translation>
+    </message>
+    <message>
+        <source>The shared folder &quot;%1&quot; is missing.</source>
+        <translation>Der gemeinsame Ordner „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The shared folder &quot;%1&quot; is no folder.</source>
+        <translation>Der gemeinsame Ordner „%1“ ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>Raw key codes are on, and their file &quot;%1&quot; is missing.</source>
+        <translation>Rohe Tastencodes sind eingeschaltet, und ihre Datei „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>Raw key codes are on, and no file is chosen for them.</source>
+        <translation>Rohe Tastencodes sind eingeschaltet, und es ist keine Datei dafür gewählt.</translation>
+    </message>
+    <message>
+        <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
+        <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
+    </message>
+    <message>
+        <source>The place of the preferences file names no file: no save can succeed.</source>
+        <translation>Der Ort der Einstellungsdatei bezeichnet keine Datei: Speichern kann nicht gelingen.</translation>
+    </message>
+    <message>
+        <source>The preferences file &quot;%1&quot; could not be saved: %2.</source>
+        <translation>Die Einstellungsdatei „%1“ konnte nicht gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>The preferences file &quot;%1&quot; cannot be written: a save will fail.</source>
+        <translation>Die Einstellungsdatei „%1“ kann nicht geschrieben werden: Speichern wird scheitern.</translation>
+    </message>
+    <message>
+        <source>The preferences file &quot;%1&quot; has been removed by another program. A save makes it anew.</source>
+        <translation>Die Einstellungsdatei „%1“ wurde von einem anderen Programm entfernt. Speichern legt sie neu an.</translation>
+    </message>
+    <message>
+        <source>The preferences file &quot;%1&quot; has been changed by another program. A save undoes that.</source>
+        <translation>Die Einstellungsdatei „%1“ wurde von einem anderen Programm geändert. Speichern macht das rückgängig.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing that this program knows. It shows &quot;%2&quot;, and a save keeps the line as it is.</source>
+        <translation>„%1“ ist diesem Programm unbekannt. Es zeigt „%2“, und Speichern lässt die Zeile, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the file is nothing that this program knows. It shows &quot;%2&quot;, and a save writes &quot;%3&quot;.</source>
+        <translation>„%1“ in der Datei ist diesem Programm unbekannt. Es zeigt „%2“, und Speichern schreibt „%3“.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; comes from a line that does not begin with &quot;%2&quot;: &quot;%3&quot;.</source>
+        <translation>Der Wert „%1“ stammt aus einer Zeile, die nicht mit „%2“ beginnt: „%3“.</translation>
+    </message>
+    <message>
+        <source>After a save the value of &quot;%1&quot; would be read from another line: &quot;%2&quot;.</source>
+        <translation>Nach dem Speichern würde der Wert von „%1“ aus einer anderen Zeile gelesen: „%2“.</translation>
+    </message>
+    <message>
+        <source>The disk image &quot;%1&quot; cannot be reached.</source>
+        <translation>Das Festplattenabbild „%1“ ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 disk images cannot be reached: %3.</source>
+        <translation>%1 von %2 Festplattenabbildern sind nicht erreichbar: %3.</translation>
+    </message>
+    <message>
+        <source>There is no permission to read the disk image &quot;%1&quot;.</source>
+        <translation>Es fehlt die Berechtigung, das Festplattenabbild „%1“ zu lesen.</translation>
+    </message>
+    <message>
+        <source>There is no permission to read %1 of %2 disk images: %3.</source>
+        <translation>Es fehlt die Berechtigung, %1 von %2 Festplattenabbildern zu lesen: %3.</translation>
+    </message>
+    <message>
+        <source>Quillon cannot be reached at &quot;%1&quot;: %2.</source>
+        <translation>Quillon ist unter „%1“ nicht erreichbar: %2.</translation>
+    </message>
+    <message>
+        <source>The ROM file &quot;%1&quot; cannot be reached: %2.</source>
+        <translation>Die ROM-Datei „%1“ ist nicht erreichbar: %2.</translation>
+    </message>
+    <message>
+        <source>There is no permission to read the ROM file &quot;%1&quot;.</source>
+        <translation>Es fehlt die Berechtigung, die ROM-Datei „%1“ zu lesen.</translation>
+    </message>
+    <message>
+        <source>The shared folder &quot;%1&quot; cannot be reached: %2.</source>
+        <translation>Der gemeinsame Ordner „%1“ ist nicht erreichbar: %2.</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>off</source>

@@ -55,7 +55,23 @@ for make in 'mkdir "$prefs"' 'mkfifo "$prefs"' 'ln -s /dev/zero "$prefs"' 'ln -s
 done
 
 echo 'rom /a' >"$prefs"
-for arguments in --nonsense file '--start file'; do
+# tells LINE: --check says this line.
+tells() { grep -qxP "$1" <<<"$said"; }
+before=$(files)
+check "--check with something that stops" ends 1 "$program" --check
+check "what it tells" tells 'stops\trom\tThe ROM file "/a" is missing\.'
+check "nothing else is said" [ -z "$(grep -vP '^(stops|warning|note)\t' <<<"$said")" ]
+check "it changes no file" [ "$before" = "$(files)" ]
+rm "$prefs"
+check "--check without preferences" ends 1 "$program" --check
+check "it makes none" [ ! -e "$prefs" ]
+head -c 65536 /dev/zero >"$HOME/rom"
+printf 'rom rom\ndisk a\tb\e[1m\n' >"$prefs"
+check "--check with nothing that stops" ends 0 "$program" --check
+check "a path with control characters" tells 'warning\tdisk\t[^\t\e]*a\\x09b\\x1b\[1m.*'
+
+echo 'rom /a' >"$prefs"
+for arguments in --nonsense file '--start file' '--check file'; do
   # shellcheck disable=SC2086  # they are several
   check "refusing $arguments" ends 2 "$program" $arguments
 done
