@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "app/shared_var.h"
+#include "platform/files.h"
 
 namespace app {
 namespace {
@@ -28,6 +29,28 @@ void applyLocalRule(platform::Output& output) {
     sharedVar::pathToQuil = localEmulator();
     output.print("local path is enabled: ", sharedVar::pathToQuil);
   }
+}
+
+std::string ownFolder() {
+  if (!sharedVar::localPath) {
+    return sharedVar::pathToQuilRoot;
+  }
+  std::string folder = sharedVar::localPath->path();
+  if (!folder.ends_with('/')) {
+    folder += '/';
+  }
+  return folder;
+}
+
+std::string emulatorPath() {
+  const std::string& path = sharedVar::pathToQuil;
+  const std::string& root = sharedVar::pathToQuilRoot;
+  if (!path.starts_with(root)) {
+    return path;
+  }
+  // A path that somebody typed may begin as the root does and mean what it says.
+  const bool isTyped = path != localEmulator() && platform::fileExists(path);
+  return isTyped ? path : ownFolder() + path.substr(root.size());
 }
 
 std::string localEmulator() { return sharedVar::pathToQuilRoot + "/Quillon.app"; }

@@ -142,7 +142,7 @@ void prefsViewController::launchTest() {
   }
   sharedVar::startFlag = startCustom;
   sharedVar::pathToQuil = Quillon.stringValue();
-  host_.workspace.launchApplication(sharedVar::pathToQuil);
+  host_.workspace.launchApplication(emulatorPath());
 }
 
 void prefsViewController::finish() {

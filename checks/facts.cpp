@@ -9,7 +9,7 @@
 #include <system_error>
 
 #include "platform/descriptor.h"
-#include "platform/files.h"
+#include "platform/file_stamp.h"
 #include "platform/workspace.h"
 
 namespace checks {
@@ -59,11 +59,10 @@ FileFact factAbout(const State& state, Key key) {
   return state.isChosen(key) ? factAbout(state, state.value(key)) : FileFact();
 }
 
-void gatherQuillon(const std::string& place, Facts& facts) {
-  if (place.empty() || place.find('\0') != std::string::npos) {
+void gatherQuillon(const std::string& application, Facts& facts) {
+  if (application.empty() || application.find('\0') != std::string::npos) {
     return;
   }
-  const std::string application = platform::withExistingFolder(place);
   facts.quillon = factAbout(application);
   const std::string program = platform::executableOf(application);
   facts.hasProgram = factAbout(program).kind == Kind::file && mayAccess(program, X_OK);

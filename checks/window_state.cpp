@@ -1,5 +1,6 @@
 #include "checks/window_state.h"
 
+#include "app/emulator_location.h"
 #include "app/shared_var.h"
 
 namespace checks {
@@ -43,7 +44,7 @@ State stateOf(const editor::ViewController& controller) {
   state.disks = controller.volumes.volumes().paths();
   state.preferences = stateOf(controller.preferences);
   state.isStartEnabled = app::sharedVar::startState;
-  state.pathToQuil = app::sharedVar::pathToQuil;
+  state.pathToQuil = app::emulatorPath();
   state.homeDirectory = controller.preferences.dir;
   return state;
 }

@@ -5,9 +5,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "app/shared_var.h"
+#include "app/emulator_location.h"
 #include "desktop/texts.h"
-#include "platform/files.h"
 
 namespace desktop {
 
@@ -29,7 +28,7 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   size->setPlaceholderText(QLatin1String("100"));
   form->addRow(tr("&Size (MB):"), size);
   auto* const place =
-      new QLabel(toQString(platform::withExistingFolder(app::sharedVar::pathToQuilRoot)));
+      new QLabel(toQString(app::ownFolder()));
   place->setWordWrap(true);
   place->setAlignment(leadingSide() | Qt::AlignVCenter);
   form->addRow(tr("Folder:"), place);

@@ -122,7 +122,7 @@ bool ViewController::volumesChanged() const {
 
 StartResult ViewController::saveAndLaunch() {
   const bool saved = savePrefsAny();
-  return {saved, host_.workspace.launchApplication(sharedVar::pathToQuil)};
+  return {saved, host_.workspace.launchApplication(app::emulatorPath())};
 }
 
 void ViewController::startButton() {

@@ -9,7 +9,6 @@
 
 #include "platform/descriptor.h"
 #include "platform/file_writer.h"
-#include "platform/location.h"
 #include "platform/text.h"
 
 namespace platform {
@@ -115,16 +114,6 @@ std::optional<std::int64_t> fileSize(const std::string& path, std::error_code& e
     return std::nullopt;
   }
   return S_ISREG(status.st_mode) ? status.st_size : 0;
-}
-
-std::string withExistingFolder(const std::string& path) {
-  const std::size_t name = path.rfind('/') + 1;
-  const std::string folder = path.substr(0, name);
-  if (folder.empty() || fileExists(folder)) {
-    return path;
-  }
-  const std::string decoded = percentDecoded(folder);
-  return fileExists(decoded) ? decoded + path.substr(name) : path;
 }
 
 }  // namespace platform

@@ -44,7 +44,4 @@ std::error_code copyFile(const std::string& from, const std::string& to);
 /// cannot be read.
 std::optional<std::int64_t> fileSize(const std::string& path, std::error_code& error);
 
-/// `path`, its folder percent-decoded where only that form of the folder exists.
-std::string withExistingFolder(const std::string& path);
-
 }  // namespace platform

@@ -135,7 +135,7 @@ bool ProcessWorkspace::launchApplication(const std::string& path) {
     return false;
   }
   std::error_code error;
-  const std::string application = std::filesystem::absolute(withExistingFolder(path), error);
+  const std::string application = std::filesystem::absolute(path, error);
 #ifdef __APPLE__
   return fileExists(application) && startDetached({"/usr/bin/open", application}, homeDirectory_);
 #else

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <string>
 
+#include "app/emulator_location.h"
 #include "app/shared_var.h"
 #include "editor/view_controller.h"
 #include "platform/headless.h"
@@ -35,7 +36,7 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
   const auto result =
       unread.empty()
           ? controller.saveAndLaunch()
-          : editor::StartResult{false, workspace.launchApplication(app::sharedVar::pathToQuil)};
+          : editor::StartResult{false, workspace.launchApplication(app::emulatorPath())};
   if (result.saved && result.launched) {
     return 0;
   }

@@ -4,8 +4,7 @@
 #include <limits>
 #include <string_view>
 
-#include "app/shared_var.h"
-#include "platform/files.h"
+#include "app/emulator_location.h"
 #include "platform/text.h"
 #include "volumes/blank_image.h"
 
@@ -82,7 +81,7 @@ void createViewController::createAction() {
            std::to_string(largestSize) + "!");
     return;
   }
-  imageName_ = platform::withExistingFolder(app::sharedVar::pathToQuilRoot + name);
+  imageName_ = app::ownFolder() + name;
   ZeroBuffer imageData;
   std::error_code error = imageData.setLength(*length);
   if (!error) {

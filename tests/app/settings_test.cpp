@@ -166,5 +166,23 @@ TEST_F(SettingsTest, LocalModeFollowsTheBundle) {
   EXPECT_EQ(sharedVar::pathToQuilRoot, "/");
 }
 
+TEST_F(SettingsTest, OwnFolderIsNotMistakenForOneNamedLikeItsLocation) {
+  const std::string foreign = host.home.write("100%25/Quillon.app", "");
+  findLocalPath(platform::Bundle(host.home.path("100%/Q S.app")), host.output);
+  struct Row {
+    std::string location;
+    std::string started;
+  };
+  const std::vector<Row> rows = {
+      {.location = localEmulator(), .started = host.home.path("100%//Quillon.app")},
+      {.location = host.home.path("100%25/Old.app"), .started = host.home.path("100%/Old.app")},
+      {.location = foreign, .started = foreign},
+      {.location = "/a%20b/Quillon.app", .started = "/a%20b/Quillon.app"}};
+  for (const Row& row : rows) {
+    sharedVar::pathToQuil = row.location;
+    EXPECT_EQ(emulatorPath(), row.started);
+  }
+}
+
 }  // namespace
 }  // namespace app

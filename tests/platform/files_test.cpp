@@ -67,15 +67,5 @@ TEST_F(FilesTest, ReadsWithinItsLimits) {
   EXPECT_EQ(error, std::errc::file_too_large);
 }
 
-TEST_F(FilesTest, DecodesOnlyMissingFolders) {
-  for (const auto* made : {"a b/x", "c%20d/x", "c d/x"}) {
-    folder.write(made, "");
-  }
-  EXPECT_EQ(withExistingFolder(folder.path("a%20b/Q%20.app")), folder.path("a b/Q%20.app"));
-  for (const auto& same : {folder.path("c%20d/Q"), folder.path("e%20f/Q"), std::string("Q%20")}) {
-    EXPECT_EQ(withExistingFolder(same), same);
-  }
-}
-
 }  // namespace
 }  // namespace platform

@@ -84,7 +84,7 @@ TEST_F(WorkspaceTest, FindsTheExecutable) {
       {folder.path("Up.app"), "Up.app/Contents/MacOS/Up"},
       {folder.path("Bare.app//"), "Bare.app/Contents/MacOS/Bare"},
       {folder.path("/a  b\n'\"$(x);*/Q \".app"), "a  b\n'\"$(x);*/Q \".app/Contents/MacOS/Q \""},
-      {folder.path("e%20f/Q.app"), "e f/Q.app/Contents/MacOS/Q"},
+      {folder.path("e%20f/Q.app"), "e%20f/Q.app/Contents/MacOS/Q"},
       {folder.path("/-rf///-n"), "-rf/-n"},
       {"-rf/-n", "-rf/-n"}};
   const fs::path before = fs::current_path();
