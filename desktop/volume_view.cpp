@@ -161,6 +161,13 @@ void VolumeView::dropEvent(QDropEvent* event) {
   QAbstractItemView::dropEvent(event);  // NOLINT(bugprone-parent-virtual-call)
 }
 
+// Of a table that is not seen Qt measures all rows, and Qt 6.8 does so whenever the page of the
+// table is taken out of the tabs for a while: its header is told that it is hidden, and the table
+// then asks it for its length. A table that is shown again is measured again.
+int VolumeView::sizeHintForColumn(int column) const {
+  return isVisible() ? QTableView::sizeHintForColumn(column) : -1;
+}
+
 void VolumeView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
   if (model_.rowCount() == 0) {

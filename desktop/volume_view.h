@@ -24,6 +24,7 @@ class VolumeView : public QTableView {
   void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] int sizeHintForColumn(int column) const override;
 
  private:
   void showState();

@@ -134,6 +134,7 @@ TEST_F(Volumes, AReloadAsksForVisibleCellsOnly) {
     QTest::qWait(10);
     const auto asked = QString::fromStdString(fake.said()).count(QLatin1String("loCalmode"));
     EXPECT_TRUE(asked > 3 && asked <= visible) << asked;
+    EXPECT_GT(table->columnWidth(2), table->fontMetrics().horizontalAdvance("Not Found!"));
   }
 }
 
