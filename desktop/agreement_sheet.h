@@ -13,9 +13,6 @@ class AgreementSheet : public QDialog {
 
  public:
   AgreementSheet(const platform::Host& host, Edits& edits, QWidget* parent);
-  ~AgreementSheet() override { deleteWidgets(*this); }
-  AgreementSheet(const AgreementSheet&) = delete;
-  AgreementSheet& operator=(const AgreementSheet&) = delete;
 
  private:
   app::sheetViewController controller_;

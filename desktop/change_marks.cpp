@@ -17,14 +17,8 @@ void mark(QWidget* label, bool isChanged) {
 
 }  // namespace
 
-ChangeMarks::ChangeMarks(const editor::ViewController& controller,
-                         const SettingWidgets& settingWidgets, QWidget& window)
-    : QObject(&window),
-      controller_(controller),
-      settingWidgets_(settingWidgets),
-      window_(window),
-      volumesLabel_(window.findChild<QWidget*>(QLatin1String("volumesLabel"))),
-      readError_(window.findChild<QWidget*>(QLatin1String("readError"))) {
+ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Marked& marked)
+    : controller_(controller), marked_(marked) {
   const auto* const dispatcher = QAbstractEventDispatcher::instance();
   for (const auto signal :
        {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
@@ -34,7 +28,7 @@ ChangeMarks::ChangeMarks(const editor::ViewController& controller,
 
 void ChangeMarks::update() {
   const auto changed = controller_.changedKeys();
-  for (const SettingWidget& place : settingWidgets_) {
+  for (const SettingWidget& place : marked_.settings) {
     // Some controls show more than one key.
     const auto& control = document::rowOf(place.setting->key()).control;
     mark(place.label, std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
@@ -42,14 +36,14 @@ void ChangeMarks::update() {
          }));
   }
   const bool volumesChanged = controller_.volumesChanged();
-  mark(volumesLabel_, volumesChanged);
-  if (readError_ != nullptr && controller_.preferences.readError().empty()) {
-    readError_->hide();
+  mark(marked_.volumesLabel, volumesChanged);
+  if (marked_.readError != nullptr && controller_.preferences.readError().empty()) {
+    marked_.readError->hide();
   }
   // Not without need: the window system answers each new title, which would bring us here again.
   const bool modified = !changed.empty() || volumesChanged;
-  if (window_.isWindowModified() != modified) {
-    window_.setWindowModified(modified);
+  if (marked_.window->isWindowModified() != modified) {
+    marked_.window->setWindowModified(modified);
   }
 }
 

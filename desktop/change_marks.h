@@ -8,25 +8,27 @@
 
 namespace desktop {
 
-/// Shows what a save would change: the labels of the settings in bold, a mark in the window's
-/// title. It is found by comparing, each time that the program has done something and is about to
-/// wait or to go on.
+/// Shows what a save would change: labels in bold, a mark in the window's title. That is found by
+/// comparing, each time that Qt's event loop wakes up or is about to wait.
 class ChangeMarks : public QObject {
   Q_OBJECT
 
  public:
-  /// `window` has the page with the volumes already.
-  ChangeMarks(const editor::ViewController& controller, const SettingWidgets& settingWidgets,
-              QWidget& window);
+  /// The widgets that show it. They stay for as long as this object is there.
+  struct Marked {
+    QWidget* window;
+    const SettingWidgets& settings;  // more are added while the pages are being made
+    QWidget* volumesLabel;
+    QWidget* readError;  // hidden once a save has replaced the unread file; null: it was read
+  };
+
+  ChangeMarks(const editor::ViewController& controller, const Marked& marked);
 
  private:
   void update();
 
   const editor::ViewController& controller_;
-  const SettingWidgets& settingWidgets_;
-  QWidget& window_;
-  QWidget* volumesLabel_;
-  QWidget* readError_;  // there only when the file could not be read
+  Marked marked_;
 };
 
 }  // namespace desktop

@@ -3,9 +3,11 @@
 #include <QAbstractSpinBox>
 #include <QCompleter>
 #include <QEvent>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "desktop/status_line.h"
 #include "desktop/stepper_box.h"
@@ -44,13 +46,6 @@ void showItems(QComboBox* box, const std::vector<std::string>& items,
   }
 }
 
-// While the control has this view.
-template <typename Widget, typename Show>
-void attach(platform::Control& control, Widget* widget, Show show) {
-  control.attach(show);
-  QObject::connect(widget, &QObject::destroyed, [&control] { control.detach(); });
-}
-
 }  // namespace
 
 void describe(QWidget* widget, const platform::Control& control, const QString& help) {
@@ -60,13 +55,28 @@ void describe(QWidget* widget, const platform::Control& control, const QString& 
   widget->setAccessibleDescription(help);
 }
 
-void deleteWidgets(QWidget& window) {
-  qDeleteAll(window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
-}
-
 void guardWheel(QWidget* widget) {
   widget->setFocusPolicy(Qt::StrongFocus);
   widget->installEventFilter(new WheelGuard(widget));
+}
+
+// The widget may go before the window does.
+template <typename Show>
+void Controls::attach(platform::Control& control, const QObject* widget, Show show) {
+  views_.push_back(control.attach([alive = QPointer<const QObject>(widget), show] {
+    if (alive) {
+      show();
+    }
+  }));
+}
+
+PendingEdit* Controls::pendingEdit(QLineEdit* field, platform::TextField& control,
+                                   PendingEdit::TextCallback typed,
+                                   PendingEdit::TextCallback commit) {
+  return pendingEdits_
+      .emplace_back(std::make_unique<PendingEdit>(field, control, edits_, std::move(typed),
+                                                  std::move(commit)))
+      .get();
 }
 
 QPushButton* Controls::pushButton(platform::Button& control, const QString& text,
@@ -79,7 +89,7 @@ QPushButton* Controls::pushButton(platform::Button& control, const QString& text
       button->setText(toQString(control.title()));
     }
   });
-  QObject::connect(button, &QPushButton::clicked, [this, button, &control] {
+  QObject::connect(button, &QPushButton::clicked, &connections_, [this, button, &control] {
     if ((button->focusPolicy() & Qt::ClickFocus) != 0) {
       edits_.endEditing();
     }
@@ -98,7 +108,7 @@ ButtonWidget* Controls::checkable(platform::Button& control, const QString& text
     button->setEnabled(control.isEnabled());
     button->setChecked(control.isOn());
   });
-  QObject::connect(button, &ButtonWidget::clicked, [this, &control](bool checked) {
+  QObject::connect(button, &ButtonWidget::clicked, &connections_, [this, &control](bool checked) {
     edits_.endEditing();
     control.edit([&] { control.setOn(checked); });
   });
@@ -118,12 +128,11 @@ QAction* Controls::menuEntry(platform::Button& control, const QString& text, QOb
   auto* const entry = new QAction(text, parent);
   entry->setObjectName(toQString(control.name()));
   entry->setCheckable(true);
-  control.attach([entry, &control] {
+  attach(control, entry, [entry, &control] {
     entry->setEnabled(control.isEnabled());
     entry->setChecked(control.isOn());
   });
-  QObject::connect(entry, &QObject::destroyed, [&control] { control.detach(); });
-  QObject::connect(entry, &QAction::triggered, [this, &control] {
+  QObject::connect(entry, &QAction::triggered, &connections_, [this, &control] {
     edits_.endEditing();
     control.sendAction();
   });
@@ -135,8 +144,8 @@ QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help)
   describe(field, control, help);
   field->setMaxLength(std::numeric_limits<int>::max());
   const auto store = [&control](const QString& text) { control.setStringValue(fromQString(text)); };
-  auto* const pending = new PendingEdit(
-      field, edits_,
+  PendingEdit* const pending = pendingEdit(
+      field, control,
       [store, &control](const QString& text) { control.setFromView([&] { store(text); }); },
       [store, &control](const QString& text) { control.edit([&] { store(text); }); });
   attach(control, field, [field, pending, &control] {
@@ -176,8 +185,8 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
     box->setEditText(text);
   };
   const auto store = [&control](const QString& text) { control.enterText(fromQString(text)); };
-  auto* const pending = new PendingEdit(
-      box->lineEdit(), edits_,
+  PendingEdit* const pending = pendingEdit(
+      box->lineEdit(), control,
       [store, &control](const QString& text) { control.setFromView([&] { store(text); }); },
       [store, show, &control](const QString& text) {
         control.edit([&] { store(text); });
@@ -187,7 +196,7 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
     show();
     pending->settle();
   });
-  QObject::connect(box, &QComboBox::activated, [box, pending, &control](int index) {
+  QObject::connect(box, &QComboBox::activated, &connections_, [box, pending, &control](int index) {
     // Qt takes a typed text that stands in the list for a choice.
     if (pending->isTyped(box->itemText(index))) {
       return;
@@ -209,7 +218,7 @@ QComboBox* Controls::popUpButton(platform::PopUpButton& control, const QString& 
     const auto selected = control.indexOfSelectedItem();
     box->setCurrentIndex(selected ? static_cast<int>(*selected) : -1);
   });
-  QObject::connect(box, &QComboBox::activated, [this, &control](int index) {
+  QObject::connect(box, &QComboBox::activated, &connections_, [this, &control](int index) {
     edits_.endEditing();
     control.edit([&] { control.selectItem(static_cast<std::size_t>(index)); });
   });

@@ -5,20 +5,26 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QObject>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QString>
+#include <memory>
+#include <vector>
 
 #include "desktop/edits.h"
 #include "platform/control.h"
 
 namespace desktop {
 
-/// Makes the widget for a control of the core and ties the two: the widget shows the control's
-/// state, and what a person does goes into the state and runs the action. Each widget gets the
-/// control's name as its object name and the help as tool tip, What's This and accessible
+/// Makes the widgets of a window for controls of the core and ties them together: a widget shows
+/// the control's state, and what a person does goes into the state and runs the action. Each widget
+/// gets the control's name as its object name and the help as tool tip, What's This and accessible
 /// description.
+///
+/// All ties end with this object. A window that owns its controller declares this behind it: then
+/// they end before the controls go, and Qt may delete the widgets later.
 class Controls {
  public:
   explicit Controls(Edits& edits) : edits_(edits) {}
@@ -38,8 +44,8 @@ class Controls {
   QWidget* stepper(platform::Stepper& control, platform::TextField& field, const QString& help);
 
   /// A text that tells how things went, in its colour.
-  static QLabel* statusLine(platform::TextField& control);
-  static QProgressBar* progressBar(platform::ProgressIndicator& control);
+  QLabel* statusLine(platform::TextField& control);
+  QProgressBar* progressBar(platform::ProgressIndicator& control);
 
   [[nodiscard]] Edits& edits() const { return edits_; }
 
@@ -47,15 +53,19 @@ class Controls {
   template <typename ButtonWidget>
   ButtonWidget* checkable(platform::Button& control, const QString& text, const QString& help);
 
+  template <typename Show>
+  void attach(platform::Control& control, const QObject* widget, Show show);
+  PendingEdit* pendingEdit(QLineEdit* field, platform::TextField& control,
+                           PendingEdit::TextCallback typed, PendingEdit::TextCallback commit);
+
   Edits& edits_;
+  std::vector<std::unique_ptr<PendingEdit>> pendingEdits_;
+  std::vector<platform::Subscription> views_;
+  QObject connections_;  // the receiver of the widgets' signals
 };
 
 /// Sets what every widget has.
 void describe(QWidget* widget, const platform::Control& control, const QString& help);
-
-/// Deletes what is in a window. A window that owns its controller needs this in its destructor: the
-/// widgets must go before the controls that they show.
-void deleteWidgets(QWidget& window);
 
 /// Keeps the wheel from changing a widget on the way past: the page scrolls instead.
 void guardWheel(QWidget* widget);

@@ -13,9 +13,6 @@ class CreateSheet : public QDialog {
 
  public:
   CreateSheet(platform::Output& output, Edits& edits, QWidget* parent);
-  ~CreateSheet() override { deleteWidgets(*this); }
-  CreateSheet(const CreateSheet&) = delete;
-  CreateSheet& operator=(const CreateSheet&) = delete;
 
  private:
   [[nodiscard]] QLayout* progressRow();

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>
+#include <algorithm>
 #include <utility>
 
 namespace desktop {
@@ -30,12 +31,18 @@ void Edits::endEditing() {
   }
 }
 
-PendingEdit::PendingEdit(QLineEdit* field, Edits& edits, TextCallback typed, TextCallback commit)
-    : QObject(field), field_(field), commit_(std::move(commit)), settled_(field->text()) {
+QWidget* Edits::widgetOf(const platform::TextField& control) const {
+  const auto found = std::find_if(
+      edits_.begin(), edits_.end(),
+      [&](const QPointer<PendingEdit>& edit) { return edit && &edit->control() == &control; });
+  return found != edits_.end() ? (*found)->focusWidget() : nullptr;
+}
+
+PendingEdit::PendingEdit(QLineEdit* field, const platform::TextField& control, Edits& edits,
+                         TextCallback typed, TextCallback commit)
+    : field_(field), control_(control), commit_(std::move(commit)), settled_(field->text()) {
   edits.add(this);
-  // Inside an editable box it is the box that has the focus.
-  QWidget* const focused = field->focusProxy() != nullptr ? field->focusProxy() : field;
-  focused->installEventFilter(this);
+  focusWidget()->installEventFilter(this);
   connect(field, &QLineEdit::textEdited, this,
           [this, typed = std::move(typed)](const QString& text) {
             text_ = oneLine(text);

@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+#include "platform/control.h"
+
 namespace desktop {
 
 class PendingEdit;
@@ -18,6 +20,9 @@ class Edits {
 
   /// Commits whatever has been typed.
   void endEditing();
+
+  /// The widget that shows a text field and takes the focus; null when none does.
+  [[nodiscard]] QWidget* widgetOf(const platform::TextField& control) const;
 
  private:
   std::vector<QPointer<PendingEdit>> edits_;
@@ -33,7 +38,15 @@ class PendingEdit : public QObject {
   using TextCallback = std::function<void(const QString&)>;
 
   /// `typed` gets the text while it is being typed, `commit` when that has ended.
-  PendingEdit(QLineEdit* field, Edits& edits, TextCallback typed, TextCallback commit);
+  PendingEdit(QLineEdit* field, const platform::TextField& control, Edits& edits,
+              TextCallback typed, TextCallback commit);
+
+  [[nodiscard]] const platform::TextField& control() const { return control_; }
+
+  /// What has the focus while something is typed: inside an editable box that is the box.
+  [[nodiscard]] QWidget* focusWidget() const {
+    return field_->focusProxy() != nullptr ? field_->focusProxy() : field_.data();
+  }
 
   /// What the field holds now is what the state says.
   void settle();
@@ -47,10 +60,13 @@ class PendingEdit : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  [[nodiscard]] bool isPending() const { return typed_ || field_->text() != settled_; }
+  [[nodiscard]] bool isPending() const {
+    return field_ != nullptr && (typed_ || field_->text() != settled_);
+  }
   void returnPressed();
 
-  QLineEdit* field_;
+  QPointer<QLineEdit> field_;
+  const platform::TextField& control_;
   TextCallback commit_;
   QString settled_;
   QString text_;  // as typed: a completion that was only looked at does not count

@@ -42,6 +42,7 @@ QWidget* volumesPage(const PageContext& context) {
   auto* const title = new QLabel(tr("Disk i&mages:"));
   title->setObjectName(QLatin1String("volumesLabel"));
   title->setBuddy(table);
+  context.volumesLabel = title;
   title->setAlignment(leadingSide() | Qt::AlignVCenter);
 
   auto* const buttons = new QHBoxLayout;

@@ -12,6 +12,7 @@ namespace desktop {
 struct PageContext {
   Controls& controls;
   SettingWidgets& settingWidgets;  // takes in where each setting went
+  QWidget*& volumesLabel;          // is set by the page that has it
   editor::ViewController& controller;
   const platform::Bundle& bundle;  // has the pictures
 };

@@ -14,9 +14,6 @@ class PreferencesWindow : public QDialog {
 
  public:
   PreferencesWindow(const platform::Host& host, Edits& edits, QWidget* parent);
-  ~PreferencesWindow() override { deleteWidgets(*this); }
-  PreferencesWindow(const PreferencesWindow&) = delete;
-  PreferencesWindow& operator=(const PreferencesWindow&) = delete;
 
  private:
   [[nodiscard]] QLayout* locationRow();

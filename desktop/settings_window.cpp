@@ -15,7 +15,6 @@
 #include <utility>
 
 #include "desktop/agreement_sheet.h"
-#include "desktop/change_marks.h"
 #include "desktop/create_sheet.h"
 #include "desktop/pages.h"
 #include "desktop/preferences_window.h"
@@ -42,7 +41,8 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   if (!controller.preferences.readError().empty()) {
-    layout->addWidget(readErrorLine());
+    readError_ = readErrorLine();
+    layout->addWidget(readError_);
   }
   layout->addWidget(tabs_, 1);
   setCentralWidget(content);
@@ -53,19 +53,23 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   layout->addLayout(buttonRow());
   help_->follow(content);
   fillPage(makers_.front().first, makers_.front().second);
-  controller.bitCreate.action = [this] { openCreation(); };
-  controller.tabs.tabViewC.attach([this] { showTabs(); });
+  // The controller may outlive this window.
+  controller.bitCreate.action = [window = QPointer(this)] {
+    if (window) {
+      window->openCreation();
+    }
+  };
+  tabsShown_ = controller.tabs.tabViewC.attach([this] { showTabs(); });
   connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
   // A larger font gets a larger window, as far as the screen goes with some room for a title bar.
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
-  new ChangeMarks(controller, settingWidgets_, *this);
+  changeMarks_.emplace(controller,
+                       ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, readError_});
   controller.viewWillAppear(delegate_);
   tabs_->setFocus();
 }
-
-SettingsWindow::~SettingsWindow() { controller_.tabs.tabViewC.detach(); }
 
 void SettingsWindow::addPages() {
   editor::Tabs& tabs = controller_.tabs;
@@ -89,7 +93,8 @@ void SettingsWindow::addPages() {
 }
 
 void SettingsWindow::fillPage(QScrollArea* area, PageMaker make) {
-  QWidget* const page = make({controls_, settingWidgets_, controller_, host_.bundle});
+  QWidget* const page =
+      make({controls_, settingWidgets_, volumesLabel_, controller_, host_.bundle});
   area->setWidget(page);
   // What is made later would come behind everything else. Only one page is shown at a time.
   QWidget* before = tabs_->tabBar();
@@ -171,7 +176,7 @@ QLayout* SettingsWindow::buttonRow() {
   preferences->setToolTip(tr("Where Quillon is, and how this program behaves."));
   connect(preferences, &QPushButton::clicked, this, &SettingsWindow::openPreferences);
   QPushButton* const start = controls_.pushButton(controller_.startQuil, tr("S&tart"), QString());
-  controller_.startQuil.attach([this, start] { showStart(start); });
+  startShown_ = controller_.startQuil.attach([this, start] { showStart(start); });
   row->addWidget(preferences);
   row->addStretch();
   row->addWidget(

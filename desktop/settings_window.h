@@ -5,9 +5,11 @@
 #include <QScrollArea>
 #include <QTabWidget>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "desktop/change_marks.h"
 #include "desktop/controls.h"
 #include "desktop/find_field.h"
 #include "desktop/help_line.h"
@@ -25,9 +27,6 @@ class SettingsWindow : public QMainWindow {
 
  public:
   SettingsWindow(editor::ViewController& controller, const platform::Host& host, Edits& edits);
-  ~SettingsWindow() override;
-  SettingsWindow(const SettingsWindow&) = delete;
-  SettingsWindow& operator=(const SettingsWindow&) = delete;
 
   /// Makes the pages that there was no time for before the window was shown.
   void completePages();
@@ -68,6 +67,11 @@ class SettingsWindow : public QMainWindow {
   QPointer<QWidget> preferences_;
   std::map<const platform::View*, QWidget*> pages_;
   SettingWidgets settingWidgets_;
+  QWidget* volumesLabel_ = nullptr;
+  QWidget* readError_ = nullptr;
+  std::optional<ChangeMarks> changeMarks_;
+  platform::Subscription tabsShown_;
+  platform::Subscription startShown_;
 };
 
 }  // namespace desktop

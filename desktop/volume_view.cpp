@@ -60,12 +60,10 @@ VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& im
   header->setSectionResizeMode(QHeaderView::ResizeToContents);
   header->setSectionResizeMode(0, QHeaderView::Stretch);
   header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
-  volumes.tableView.attach([this] { showState(); });
+  shown_ = volumes.tableView.attach([this] { showState(); });
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &VolumeView::rememberSelection);
 }
-
-VolumeView::~VolumeView() { volumes_.tableView.detach(); }
 
 void VolumeView::showState() {
   const QScopedValueRollback<bool> guard(showing_, true);

@@ -14,9 +14,6 @@ class VolumeView : public QTableView {
 
  public:
   VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images);
-  ~VolumeView() override;
-  VolumeView(const VolumeView&) = delete;
-  VolumeView& operator=(const VolumeView&) = delete;
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -38,6 +35,7 @@ class VolumeView : public QTableView {
   std::size_t revision_ = 0;
   QModelIndex hovered_;  // below a drag
   bool showing_ = false;
+  platform::Subscription shown_;
 };
 
 }  // namespace desktop

@@ -34,7 +34,8 @@ void ViewController::connectActions() {
 
 void ViewController::viewDidLoad(document::Preferences::IfMissing ifMissing) {
   volumes.wire();
-  host_.notifications.addObserver("NotificationID", [this] { isStartEnabled(); });
+  preferencesDone_ =
+      host_.notifications.addObserver("NotificationID", [this] { isStartEnabled(); });
   const std::string storedLocation = loadFrontEndSettings();
   host_.output.print("Prefs: ", storedLocation);
   host_.output.print("QuilLocal?: ", sharedVar::localPath->path());

@@ -88,6 +88,7 @@ class ViewController {
 
   platform::Host host_;
   app::SettingsStore store_;
+  platform::Subscription preferencesDone_;
   std::array<std::string, document::keyCount> savedValues_;
   std::vector<platform::Location> savedVolumes_;
   std::size_t savedRevision_ = 0;  // of the table

@@ -9,12 +9,15 @@
 #include <utility>
 #include <vector>
 
+#include "platform/subscription.h"
+
 namespace platform {
 
 /// A control of a window: state plus an action, with a view that shows it or without.
 ///
-/// Who writes the state through the setters has it shown. Who passes on what a person did writes
-/// it through `edit`, which runs the action and shows only what the action itself changed.
+/// The program changes the state through the setters, which tell the view. A view passes on what a
+/// person did through `edit`, which runs the action and tells the view only what the action
+/// changed.
 class Control {
  public:
   /// `name` is what code, tests and tools call this control.
@@ -30,23 +33,23 @@ class Control {
   [[nodiscard]] bool isEnabled() const { return enabled_; }
   void setEnabled(bool enabled) { set(enabled_, enabled); }
 
-  /// Lets `show` bring the view in line with the state, now and after every change of it. There is
-  /// at most one view.
-  void attach(std::function<void()> show) {
-    show_ = std::move(show);
+  /// Has `show` bring the view in line with the state, now and after every change of it, for as
+  /// long as the result lives. There is at most one view: an earlier one is told no more.
+  Subscription attach(std::function<void()> show) {
+    Subscription shown = show_.subscribe(std::move(show));
     changed();
+    return shown;
   }
-  void detach() { show_ = nullptr; }
 
-  /// Puts what the user is doing into the state: the view shows it already and is not told.
+  /// Puts what the user is doing into the state. The view shows it already and is not told.
   template <typename Write>
   void setFromView(Write write) {
-    auto hidden = std::exchange(show_, nullptr);
+    const Callback view = std::exchange(show_, {});
     write();
-    show_ = std::move(hidden);
+    show_ = view;
   }
 
-  /// Does what the user did: it goes into the state, then the action runs.
+  /// Puts what the user did into the state, then runs the action.
   template <typename Write>
   void edit(Write write) {
     setFromView(write);
@@ -60,11 +63,7 @@ class Control {
   }
 
  protected:
-  void changed() const {
-    if (show_) {
-      show_();
-    }
-  }
+  void changed() const { show_(); }
 
   template <typename Value>
   void set(Value& field, Value value) {
@@ -77,7 +76,7 @@ class Control {
  private:
   std::string name_;
   bool enabled_ = true;
-  std::function<void()> show_;
+  Callback show_;
 };
 
 enum class State : std::int8_t { mixed = -1, off = 0, on = 1 };

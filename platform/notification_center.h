@@ -6,17 +6,24 @@
 #include <utility>
 #include <vector>
 
+#include "platform/subscription.h"
+
 namespace platform {
 
 /// Tells observers by name, at once and in the order in which they came.
 class NotificationCenter {
  public:
-  void addObserver(std::string name, std::function<void()> observer) {
-    observers_.emplace_back(std::move(name), std::move(observer));
+  /// `observer` is told for as long as the result lives.
+  Subscription addObserver(std::string name, std::function<void()> observer) {
+    std::erase_if(observers_, [](const auto& known) { return !known.second.isSubscribed(); });
+    return observers_.emplace_back(std::move(name), Callback())
+        .second.subscribe(std::move(observer));
   }
 
   void post(std::string_view name) const {
-    for (const auto& [observed, observer] : observers_) {
+    // An observer may add others: those are told from the next post on.
+    const auto observers = observers_;
+    for (const auto& [observed, observer] : observers) {
       if (observed == name) {
         observer();
       }
@@ -24,7 +31,7 @@ class NotificationCenter {
   }
 
  private:
-  std::vector<std::pair<std::string, std::function<void()>>> observers_;
+  std::vector<std::pair<std::string, Callback>> observers_;
 };
 
 }  // namespace platform

@@ -2,12 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
+
+#include "platform/notification_center.h"
+
 namespace platform {
 
 TEST(Control, ShowsWhatIsNotTheUsersOwn) {
   ComboBox box("size_box");
   std::string shown;
-  box.attach([&] {
+  std::optional<Subscription> view = box.attach([&] {
     const std::string state = box.stringValue() + (box.indexOfSelectedItem() ? "* " : " ");
     shown += shown.ends_with(" " + state) ? "" : state;
   });
@@ -22,10 +27,39 @@ TEST(Control, ShowsWhatIsNotTheUsersOwn) {
   box.enterText("16");  // the text is the same, the selection is not
   box.selectItem(0);
   box.removeAllItems();
-  box.detach();
+  view.reset();
   type("129");
   EXPECT_EQ(shown, " 64 128 16* 16 8* 8 ");
   EXPECT_EQ(box.stringValue(), "128");
+}
+
+TEST(Subscription, EndsWithEitherSide) {
+  std::string told;
+  auto center = std::make_unique<NotificationCenter>();
+  Subscription first = center->addObserver("done", [&] { told += "first "; });
+  Subscription second = center->addObserver("done", [&] {
+    told += "second ";
+    second = {};  // a window may close when it is told
+  });
+  center->post("done");
+  center->post("done");
+  first = {};
+  center->post("done");
+  EXPECT_EQ(told, "first second first ");
+  const Subscription last = center->addObserver("done", [&] { told += "last"; });
+  center.reset();
+}
+
+TEST(Subscription, ANewViewTakesOverFromTheFormerOne) {
+  Button button("b");
+  int formerShown = 0;
+  int shown = 0;
+  std::optional former = button.attach([&] { ++formerShown; });
+  const Subscription view = button.attach([&] { ++shown; });
+  former.reset();
+  button.setOn(true);
+  EXPECT_EQ(formerShown, 1);
+  EXPECT_EQ(shown, 2);
 }
 
 }  // namespace platform
