@@ -3,12 +3,16 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <array>
 
 #include "desktop/page_builder.h"
 #include "desktop/texts.h"
 #include "desktop/volume_view.h"
 
 namespace desktop {
+
+using editor::TabId;
+
 namespace {
 
 // What only helps to find faults in this program, at the foot.
@@ -27,8 +31,6 @@ QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
                              "chosen place to standard output. Nothing is made.")));
   return row;
 }
-
-}  // namespace
 
 QWidget* volumesPage(const PageContext& context) {
   Controls& controls = context.controls;
@@ -149,6 +151,35 @@ QWidget* jitPage(const PageContext& context) {
   page.check(jit.ignoreSegV, tr("Ignore &memory faults"));
   page.check(jit.dontUseCPU, tr("Rest while the Macintosh is &idle"));
   return page.page();
+}
+
+struct PageRow {
+  TabId id;
+  QWidget* (*make)(const PageContext& context);
+};
+
+constexpr std::array<PageRow, editor::tabCount> pageTable = {{{TabId::volumes, volumesPage},
+                                                              {TabId::scsi, scsiPage},
+                                                              {TabId::machine, machinePage},
+                                                              {TabId::display, displayPage},
+                                                              {TabId::sound, soundPage},
+                                                              {TabId::network, networkPage},
+                                                              {TabId::jit, jitPage}}};
+
+constexpr bool hasRowsInOrder() {
+  for (std::size_t index = 0; index < pageTable.size(); ++index) {
+    if (indexOf(pageTable[index].id) != index || pageTable[index].make == nullptr) {
+      return false;
+    }
+  }
+  return true;
+}
+static_assert(hasRowsInOrder(), "a page for each tab, in their order");
+
+}  // namespace
+
+QWidget* makePage(TabId id, const PageContext& context) {
+  return pageTable.at(indexOf(id)).make(context);
 }
 
 }  // namespace desktop

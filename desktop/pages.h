@@ -17,13 +17,7 @@ struct PageContext {
   const platform::Bundle& bundle;  // has the pictures
 };
 
-/// What the tabs hold, a function for each.
-QWidget* volumesPage(const PageContext& context);
-QWidget* scsiPage(const PageContext& context);
-QWidget* machinePage(const PageContext& context);
-QWidget* displayPage(const PageContext& context);
-QWidget* soundPage(const PageContext& context);
-QWidget* networkPage(const PageContext& context);
-QWidget* jitPage(const PageContext& context);
+/// Makes what a tab holds.
+QWidget* makePage(editor::TabId id, const PageContext& context);
 
 }  // namespace desktop

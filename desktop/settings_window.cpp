@@ -52,7 +52,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   layout->addLayout(fileRow());
   layout->addLayout(buttonRow());
   help_->follow(content);
-  fillPage(makers_.front().first, makers_.front().second);
+  fillPage(editor::TabId::volumes);
   // The controller may outlive this window.
   controller.bitCreate.action = [window = QPointer(this)] {
     if (window) {
@@ -71,32 +71,23 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   tabs_->setFocus();
 }
 
+// All pages at once, so that they belong to the window in this order whether shown or not.
 void SettingsWindow::addPages() {
-  editor::Tabs& tabs = controller_.tabs;
-  const auto add = [&](const char* identifier, PageMaker make) {
-    auto* const area = new QScrollArea;
+  for (QScrollArea*& area : pages_) {
+    area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
-    // All pages once, so that they belong to the window in this order whether shown or not.
     tabs_->addTab(area, QString());
-    pages_[tabs.view(identifier)] = area;
-    makers_.emplace_back(area, make);
-  };
-  add("volumesTab", &volumesPage);
-  add("scsiTab", &scsiPage);
-  add("machineTab", &machinePage);
-  add("displayTab", &displayPage);
-  add("soundTab", &soundPage);
-  add("networkTab", &networkPage);
-  add("jitTab", &jitPage);
+  }
 }
 
-void SettingsWindow::fillPage(QScrollArea* area, PageMaker make) {
+void SettingsWindow::fillPage(editor::TabId id) {
   QWidget* const page =
-      make({controls_, settingWidgets_, volumesLabel_, controller_, host_.bundle});
-  area->setWidget(page);
-  // What is made later would come behind everything else. Only one page is shown at a time.
+      makePage(id, {controls_, settingWidgets_, volumesLabel_, controller_, host_.bundle});
+  pages_[indexOf(id)]->setWidget(page);
+  // Qt puts a widget that is made later behind all others in the order of the Tab key. Only one
+  // page is shown at a time, so that each can begin right behind the tab bar.
   QWidget* before = tabs_->tabBar();
   for (QWidget* const widget :
        page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -109,9 +100,12 @@ void SettingsWindow::fillPage(QScrollArea* area, PageMaker make) {
 }
 
 void SettingsWindow::completePages() {
-  for (const auto& [area, make] : std::exchange(makers_, {})) {
-    if (area->widget() == nullptr) {
-      fillPage(area, make);
+  if (std::exchange(pagesComplete_, true)) {
+    return;
+  }
+  for (std::size_t index = 0; index < pages_.size(); ++index) {
+    if (pages_[index]->widget() == nullptr) {
+      fillPage(static_cast<editor::TabId>(index));
     }
   }
 }
@@ -119,7 +113,7 @@ void SettingsWindow::completePages() {
 // A person sees one page first. The others are made once it is on the screen.
 void SettingsWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  if (!makers_.empty()) {
+  if (!pagesComplete_) {
     QTimer::singleShot(0, this, &SettingsWindow::completePages);
   }
 }
@@ -132,7 +126,7 @@ void SettingsWindow::showTabs() {
   for (const auto& item : items) {
     const QString label =
         translatedItem(item->label).replace(QLatin1Char('&'), QLatin1String("&&"));
-    tabs_->addTab(pages_.at(item->view.get()), label);
+    tabs_->addTab(pages_.at(indexOf(controller_.tabs.idOf(*item))), label);
   }
   tabs_->setCurrentIndex(std::max(0, tabs_->indexOf(const_cast<QWidget*>(current))));
   tabs_->setUpdatesEnabled(true);

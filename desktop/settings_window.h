@@ -4,10 +4,8 @@
 #include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
-#include <map>
+#include <array>
 #include <optional>
-#include <utility>
-#include <vector>
 
 #include "desktop/change_marks.h"
 #include "desktop/controls.h"
@@ -36,10 +34,8 @@ class SettingsWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  using PageMaker = QWidget* (*)(const PageContext&);
-
   void addPages();
-  void fillPage(QScrollArea* area, PageMaker make);
+  void fillPage(editor::TabId id);
   [[nodiscard]] QWidget* topRow();
   void buildShortcuts();
   [[nodiscard]] QWidget* readErrorLine();
@@ -63,9 +59,9 @@ class SettingsWindow : public QMainWindow {
   HelpLine* help_;
   Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
-  std::vector<std::pair<QScrollArea*, PageMaker>> makers_;  // of the pages that are still to come
   QPointer<QWidget> preferences_;
-  std::map<const platform::View*, QWidget*> pages_;
+  std::array<QScrollArea*, editor::tabCount> pages_{};
+  bool pagesComplete_ = false;
   SettingWidgets settingWidgets_;
   QWidget* volumesLabel_ = nullptr;
   QWidget* readError_ = nullptr;

@@ -1,5 +1,6 @@
 #include "desktop/volume_model.h"
 
+#include <QCoreApplication>
 #include <QMimeData>
 #include <set>
 #include <utility>
@@ -23,10 +24,23 @@ void VolumeModel::reload() {
 
 int VolumeModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
 
-int VolumeModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 3; }
+int VolumeModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(table_.tableColumns().size());
+}
+
+const platform::TableColumn* VolumeModel::columnAt(int column) const {
+  return column >= 0 && column < columnCount()
+             ? &table_.tableColumns()[static_cast<std::size_t>(column)]
+             : nullptr;
+}
 
 const platform::TableCell* VolumeModel::cell(const QModelIndex& index) const {
-  auto& known = cells_[index.row()].at(static_cast<std::size_t>(index.column()));
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+    return nullptr;
+  }
+  auto& row = cells_[index.row()];
+  row.resize(table_.tableColumns().size());
+  auto& known = row[static_cast<std::size_t>(index.column())];
   if (!known) {
     known = table_.dataSource->viewFor(static_cast<std::size_t>(index.column()),
                                        static_cast<std::size_t>(index.row()));
@@ -34,19 +48,20 @@ const platform::TableCell* VolumeModel::cell(const QModelIndex& index) const {
   return known ? &*known : nullptr;
 }
 
-QIcon VolumeModel::image(const std::string& name) const {
-  if (icon_.isNull()) {
-    icon_ = QIcon(toQString(images_.resource(name)));
+const QIcon& VolumeModel::image(const std::string& name) const {
+  const auto [known, isNew] = icons_.try_emplace(name);
+  if (isNew) {
+    known->second = QIcon(toQString(images_.resource(name)));
   }
-  return icon_;
+  return known->second;
 }
 
 QVariant VolumeModel::data(const QModelIndex& index, int role) const {
+  if (role == Qt::TextAlignmentRole) {
+    return alignment(index.column());
+  }
   const bool shownRole = role == Qt::DisplayRole || role == Qt::ToolTipRole ||
                          role == Qt::AccessibleTextRole || role == Qt::DecorationRole;
-  if (role == Qt::TextAlignmentRole && index.column() == 1) {
-    return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
-  }
   const platform::TableCell* const shownCell = shownRole ? cell(index) : nullptr;
   if (shownCell == nullptr) {
     return {};
@@ -57,19 +72,29 @@ QVariant VolumeModel::data(const QModelIndex& index, int role) const {
   return toQString(shownCell->text);
 }
 
+QVariant VolumeModel::alignment(int column) const {
+  const platform::TableColumn* const shown = columnAt(column);
+  return shown != nullptr && shown->endsAtRight
+             ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter)
+             : QVariant();
+}
+
 QVariant VolumeModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role == Qt::DisplayRole && orientation == Qt::Horizontal) {
-    return section == 0 ? tr("Disk image") : section == 1 ? tr("Size") + columnGap : tr("Kind");
+  const platform::TableColumn* const column =
+      orientation == Qt::Horizontal ? columnAt(section) : nullptr;
+  if (column != nullptr && role == Qt::DisplayRole) {
+    const QString title = QCoreApplication::translate("Columns", column->title);
+    return column->endsAtRight ? title + columnGap : title;
   }
-  if (role == Qt::TextAlignmentRole && section == 1) {
-    return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+  if (column != nullptr && role == Qt::TextAlignmentRole) {
+    return alignment(section);
   }
   return QAbstractTableModel::headerData(section, orientation, role);
 }
 
 Qt::ItemFlags VolumeModel::flags(const QModelIndex& index) const {
-  // A row takes no drop either, but it is asked: one that could not be would have Qt take its
-  // middle for a gap.
+  // canDropMimeData refuses a drop on a row. The row must have ItemIsDropEnabled all the same:
+  // without it QAbstractItemView takes a drop on the middle of the row for one between two rows.
   return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled |
                                Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren
                          : Qt::ItemIsDropEnabled;

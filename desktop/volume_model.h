@@ -2,9 +2,10 @@
 
 #include <QAbstractTableModel>
 #include <QIcon>
-#include <array>
 #include <optional>
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/bundle.h"
 #include "platform/table_view.h"
@@ -40,16 +41,19 @@ class VolumeModel : public QAbstractTableModel {
                     const QModelIndex& parent) override;
 
  private:
-  using Row = std::array<std::optional<platform::TableCell>, 3>;
+  using Row = std::vector<std::optional<platform::TableCell>>;
 
+  /// Null where there is no such column.
+  [[nodiscard]] const platform::TableColumn* columnAt(int column) const;
+  [[nodiscard]] QVariant alignment(int column) const;
   [[nodiscard]] const platform::TableCell* cell(const QModelIndex& index) const;
-  [[nodiscard]] QIcon image(const std::string& name) const;
+  [[nodiscard]] const QIcon& image(const std::string& name) const;
 
   platform::TableView& table_;
   platform::Bundle images_;
   int rows_ = 0;
   mutable std::unordered_map<int, Row> cells_;
-  mutable QIcon icon_;
+  mutable std::unordered_map<std::string, QIcon> icons_;
 };
 
 }  // namespace desktop

@@ -1,7 +1,7 @@
 #include "editor/tabs.h"
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
 #include "app/shared_var.h"
 #include "platform/translatable.h"
@@ -12,43 +12,57 @@ namespace {
 using app::sharedVar;
 using platform::translatable;
 
-constexpr std::size_t allTabs = 7;
-constexpr std::size_t allButScsi = 6;
-constexpr std::size_t scsiIndex = 1;
+constexpr std::size_t scsiIndex = indexOf(TabId::scsi);
 
-struct Tab {
+struct TabRow {
+  TabId id;
   const char* identifier;
   const char* label;
 };
 
-constexpr std::array<Tab, allTabs> tabs = {{{"volumesTab", translatable("Items", "Volumes")},
-                                            {"scsiTab", translatable("Items", "SCSI")},
-                                            {"machineTab", translatable("Items", "Machine")},
-                                            {"displayTab", translatable("Items", "Display")},
-                                            {"soundTab", translatable("Items", "Sound & Input")},
-                                            {"networkTab", translatable("Items", "Network")},
-                                            {"jitTab", translatable("Items", "JIT")}}};
+constexpr std::array<TabRow, tabCount> tabTable = {
+    {{TabId::volumes, "volumesTab", translatable("Items", "Volumes")},
+     {TabId::scsi, "scsiTab", translatable("Items", "SCSI")},
+     {TabId::machine, "machineTab", translatable("Items", "Machine")},
+     {TabId::display, "displayTab", translatable("Items", "Display")},
+     {TabId::sound, "soundTab", translatable("Items", "Sound & Input")},
+     {TabId::network, "networkTab", translatable("Items", "Network")},
+     {TabId::jit, "jitTab", translatable("Items", "JIT")}}};
+
+constexpr bool hasRowsInOrder() {
+  for (std::size_t index = 0; index < tabCount; ++index) {
+    if (indexOf(tabTable[index].id) != index || tabTable[index].label == nullptr) {
+      return false;
+    }
+  }
+  return true;
+}
+static_assert(hasRowsInOrder(), "a row for each tab, in their order");
+
+std::shared_ptr<platform::TabViewItem> makeItem(TabId id, std::shared_ptr<platform::View> view) {
+  const TabRow& row = tabTable[indexOf(id)];
+  return std::make_shared<platform::TabViewItem>(
+      platform::TabViewItem{row.identifier, row.label, std::move(view)});
+}
 
 }  // namespace
 
 Tabs::Tabs() {
-  for (const Tab& tab : tabs) {
-    views_.push_back(std::make_shared<platform::View>(platform::View{tab.identifier}));
-    tabViewC.addTabViewItem(std::make_shared<platform::TabViewItem>(
-        platform::TabViewItem{tab.identifier, tab.label, views_.back()}));
+  for (const TabRow& row : tabTable) {
+    auto& view = views_[indexOf(row.id)];
+    view = std::make_shared<platform::View>(platform::View{row.identifier});
+    tabViewC.addTabViewItem(makeItem(row.id, view));
   }
   scsiTab = tabViewC.items()[scsiIndex];
 }
 
-const platform::View* Tabs::view(std::string_view identifier) const {
-  const auto found = std::find_if(views_.begin(), views_.end(), [&](const auto& candidate) {
-    return candidate->name == identifier;
-  });
-  return found != views_.end() ? found->get() : nullptr;
+TabId Tabs::idOf(const platform::TabViewItem& item) const {
+  const auto* const found = std::find(views_.begin(), views_.end(), item.view);
+  return static_cast<TabId>(found - views_.begin());
 }
 
 void Tabs::prepareScsiTab() {
-  // A view can change its tab without a copy here: the one that there is stands in for it.
+  // Here a view can move to another tab, so that the tab needs no copy of its content.
   sharedVar::newScsiTab = views_[scsiIndex];
   updateScsiTab();
   scsiID0.setState(platform::State::off);
@@ -56,11 +70,10 @@ void Tabs::prepareScsiTab() {
 
 void Tabs::updateScsiTab() {
   const std::size_t count = tabViewC.numberOfTabViewItems();
-  if (count == allTabs && !sharedVar::scsiTabState) {
+  if (count == tabCount && !sharedVar::scsiTabState) {
     tabViewC.removeTabViewItem(scsiTab);
-  } else if (count == allButScsi && sharedVar::scsiTabState) {
-    scsiTab = std::make_shared<platform::TabViewItem>(platform::TabViewItem{
-        tabs[scsiIndex].identifier, tabs[scsiIndex].label, sharedVar::newScsiTab});
+  } else if (count == tabCount - 1 && sharedVar::scsiTabState) {
+    scsiTab = makeItem(TabId::scsi, sharedVar::newScsiTab);
     tabViewC.insertTabViewItem(scsiTab, scsiIndex);
   }
 }

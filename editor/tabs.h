@@ -1,13 +1,19 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <memory>
-#include <string_view>
-#include <vector>
 
 #include "platform/control.h"
 #include "platform/tab_view.h"
 
 namespace editor {
+
+/// The tabs in their order.
+enum class TabId : std::size_t { volumes, scsi, machine, display, sound, network, jit, count };
+
+constexpr std::size_t indexOf(TabId id) { return static_cast<std::size_t>(id); }
+inline constexpr std::size_t tabCount = indexOf(TabId::count);
 
 /// The tabs of the settings window, of which the SCSI tab comes and goes. What a person set on it
 /// stays while it is away, since its content is kept.
@@ -19,8 +25,8 @@ class Tabs {
   std::shared_ptr<platform::TabViewItem> scsiTab;
   platform::Button scsiID0{"scsiID0"};
 
-  /// The content of a tab, which stays the same when the tab goes and comes back.
-  [[nodiscard]] const platform::View* view(std::string_view identifier) const;
+  /// Which tab an item of `tabViewC` is.
+  [[nodiscard]] TabId idOf(const platform::TabViewItem& item) const;
 
   /// Brings the tab in line with `sharedVar` for the first time.
   void prepareScsiTab();
@@ -29,7 +35,7 @@ class Tabs {
   void updateScsiTab();
 
  private:
-  std::vector<std::shared_ptr<platform::View>> views_;  // of all tabs, shown or not
+  std::array<std::shared_ptr<platform::View>, tabCount> views_;  // of all tabs, shown or not
 };
 
 }  // namespace editor

@@ -14,9 +14,16 @@ namespace platform {
 enum class DropOperation : std::uint8_t { on = 0, above = 1 };
 enum class DragOperation : std::uint8_t { none = 0, move = 16 };
 
+/// A column of a table.
+struct TableColumn {
+  const char* identifier;  // of its cells
+  const char* title;       // for a person, marked with `translatable` under "Columns"
+  bool endsAtRight = false;
+};
+
 /// What one cell shows.
 struct TableCell {
-  std::string identifier;
+  std::string identifier;  // its column's
   std::string text;
   std::string image;  // the name of a resource; empty: none
 };
@@ -47,6 +54,9 @@ class TableView : public Control {
 
   TableDataSource* dataSource = nullptr;
 
+  void addTableColumn(const TableColumn& column) { columns_.push_back(column); }
+  [[nodiscard]] const std::vector<TableColumn>& tableColumns() const { return columns_; }
+
   void registerForDraggedTypes(std::vector<std::string> types) { types_ = std::move(types); }
   [[nodiscard]] const std::vector<std::string>& draggedTypes() const { return types_; }
 
@@ -76,6 +86,7 @@ class TableView : public Control {
  private:
   void rowsChanged();
 
+  std::vector<TableColumn> columns_;
   std::vector<std::string> types_;
   std::vector<std::size_t> selected_;
   std::size_t revision_ = 0;

@@ -4,13 +4,12 @@
 
 #include "platform/byte_count.h"
 #include "platform/text.h"
+#include "platform/translatable.h"
 
 namespace volumes {
 namespace {
 
 constexpr std::string_view dragDropType = "private.table-row";
-
-enum Column : std::size_t { nameColumn, sizeColumn, kindColumn };
 
 std::string withoutScheme(std::string text) {
   constexpr std::string_view scheme = "file://";
@@ -22,8 +21,17 @@ std::string withoutScheme(std::string text) {
 
 }  // namespace
 
+// Position, title and cells of each column.
+const std::array<VolumeTable::Column, 3> VolumeTable::columns = {
+    {{{"NameCell", platform::translatable("Columns", "Disk image")}, &VolumeTable::nameCell},
+     {{"SizeCell", platform::translatable("Columns", "Size"), true}, &VolumeTable::sizeCell},
+     {{"KindCell", platform::translatable("Columns", "Kind")}, &VolumeTable::kindCell}}};
+
 VolumeTable::VolumeTable(platform::Output& output, platform::Panels& panels)
     : output_(output), panels_(panels), volumes_(output) {
+  for (const Column& column : columns) {
+    tableView.addTableColumn(column.shown);
+  }
   ronMode.setOn(true);
   browseFile.action = [this] { chooseFiles(); };
   removeVol.action = [this] { removeSelected(); };
@@ -48,17 +56,11 @@ std::optional<platform::TableCell> VolumeTable::viewFor(std::optional<std::size_
       showsLocalList_ ? volumes_.volLocal()[row] : volumes_.volName()[row];
   output_.print(showsLocalList_ ? "loCalmode volLocal" : "loCalmode volRegular");
   output_.print(location.text());
-  if (column == nameColumn) {
-    return nameCell(location);
-  }
-  if (column == sizeColumn) {
-    return platform::TableCell{
-        "SizeCell",
-        platform::ByteCountFormatter().stringFromByteCount(volumes_.volSize()[row]),
-        {}};
-  }
-  if (column == kindColumn) {
-    return kindCell(location, row);
+  if (column && *column < columns.size()) {
+    const Column& shown = columns[*column];
+    platform::TableCell cell = (this->*shown.cell)(location, row);
+    cell.identifier = shown.shown.identifier;
+    return cell;
   }
   if (reorderFlag_) {
     reorderFlag_ = false;
@@ -67,7 +69,7 @@ std::optional<platform::TableCell> VolumeTable::viewFor(std::optional<std::size_
   return std::nullopt;
 }
 
-platform::TableCell VolumeTable::nameCell(const platform::Location& location) {
+platform::TableCell VolumeTable::nameCell(const platform::Location& location, std::size_t /*row*/) {
   std::string text = location.path();
   if (text.empty()) {
     output_.print("p: ", location.text());
@@ -76,13 +78,17 @@ platform::TableCell VolumeTable::nameCell(const platform::Location& location) {
   }
   output_.print("url: ", location.text());
   output_.print("disk table cell name: ", text);
-  return {"NameCell", std::move(text), "HappyMac.png"};
+  return {{}, std::move(text), "HappyMac.png"};
+}
+
+platform::TableCell VolumeTable::sizeCell(const platform::Location& /*location*/, std::size_t row) {
+  return {{}, platform::ByteCountFormatter().stringFromByteCount(volumes_.volSize()[row]), {}};
 }
 
 platform::TableCell VolumeTable::kindCell(const platform::Location& location, std::size_t row) {
   const std::string path = location.path();
   output_.print("Debug: text.path for volume type: ", path);
-  return {"KindCell", path.starts_with('/') ? volumes_.volType()[row] : "No Path!", {}};
+  return {{}, path.starts_with('/') ? volumes_.volType()[row] : "No Path!", {}};
 }
 
 void VolumeTable::switchList() {

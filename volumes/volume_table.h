@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,7 +47,14 @@ class VolumeTable : public platform::TableDataSource {
   bool acceptDrop(const std::vector<std::string>& items, std::size_t dropRow) override;
 
  private:
-  platform::TableCell nameCell(const platform::Location& location);
+  struct Column {
+    platform::TableColumn shown;
+    platform::TableCell (VolumeTable::*cell)(const platform::Location& location, std::size_t row);
+  };
+  static const std::array<Column, 3> columns;
+
+  platform::TableCell nameCell(const platform::Location& location, std::size_t row);
+  platform::TableCell sizeCell(const platform::Location& location, std::size_t row);
   platform::TableCell kindCell(const platform::Location& location, std::size_t row);
   void chooseFiles();
   void removeSelected();

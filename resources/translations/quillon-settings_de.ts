@@ -165,6 +165,21 @@
     </message>
 </context>
 <context>
+    <name>Columns</name>
+    <message>
+        <source>Disk image</source>
+        <translation>Festplattenabbild</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>off</source>
@@ -1035,21 +1050,6 @@
     <message>
         <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
         <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::VolumeModel</name>
-    <message>
-        <source>Disk image</source>
-        <translation>Festplattenabbild</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Art</translation>
     </message>
 </context>
 <context>
