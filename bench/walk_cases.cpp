@@ -33,7 +33,7 @@ class SampleHome {
   std::string path_ = std::filesystem::canonical("/tmp").string() + "/quillon-bench-XXXXXX";
 };
 
-// Everything that happens before the window is built: the file is read, all 34 settings and the
+// Everything that happens before the window is built: the file is read, all settings and the
 // volumes are filled in, the diagnostics are written.
 void walk(benchmark::State& state) {
   const SampleHome home(bench::samplePreferences(static_cast<std::size_t>(state.range(0)),
@@ -47,7 +47,7 @@ void walk(benchmark::State& state) {
   }
 }
 BENCHMARK(walk)
-    ->Name("walk over 34 settings; disks/other lines")
+    ->Name("walk over " + std::to_string(document::keyCount) + " settings; disks/other lines")
     ->Args({6, 0})
     ->Args({1000, 0})
     ->Args({0, 200000})

@@ -26,52 +26,63 @@ void PageBuilder::heading(const QString& text) {
   form_->addRow(heading);
 }
 
-void PageBuilder::row(editor::Setting& setting, const QString& label, QWidget* widget) {
-  form_->addRow(label, widget);
+void PageBuilder::row(editor::Setting& setting, const char* label, QWidget* widget) {
+  const QString text = translatedLabel(label);
+  form_->addRow(text + QLatin1Char(':'), widget);
   // A screen reader comes upon the field inside a box or an arrow pair as well.
   for (QWidget* const named : {widget, static_cast<QWidget*>(widget->findChild<QLineEdit*>())}) {
     if (named != nullptr) {
-      named->setAccessibleName(plainText(label));
+      named->setAccessibleName(plainText(text));
       named->setAccessibleDescription(widget->accessibleDescription());
     }
   }
-  addSettingWidget(setting, label, form_->labelForField(widget), widget);
+  addSettingWidget(setting, text, form_->labelForField(widget), widget);
 }
 
-void PageBuilder::field(editor::TextFieldSetting& setting, const QString& label, QWidget* button) {
+void PageBuilder::field(editor::TextFieldSetting& setting, QWidget* button) {
+  const QString text = translatedLabel(setting.label());
   QWidget* const widget = controls_.lineEdit(setting.field, helpOf(setting));
   auto* const line = new QHBoxLayout;
   line->addWidget(widget, 1);
   line->addWidget(button);
-  auto* const title = new QLabel(label);
+  auto* const title = new QLabel(text + QLatin1Char(':'));
   title->setBuddy(widget);
   form_->addRow(title, line);
-  widget->setAccessibleName(plainText(label));
-  addSettingWidget(setting, label, title, widget);
+  widget->setAccessibleName(plainText(text));
+  addSettingWidget(setting, text, title, widget);
 }
 
-void PageBuilder::field(editor::TextFieldSetting& setting, const QString& label) {
-  row(setting, label, controls_.lineEdit(setting.field, helpOf(setting)));
+void PageBuilder::field(editor::TextFieldSetting& setting) {
+  row(setting, setting.label(), controls_.lineEdit(setting.field, helpOf(setting)));
 }
 
-void PageBuilder::choice(editor::PopUpSetting& setting, const QString& label) {
-  row(setting, label, controls_.popUpButton(setting.button, helpOf(setting)));
+void PageBuilder::choice(editor::PopUpSetting& setting) {
+  row(setting, setting.label(), controls_.popUpButton(setting.button, helpOf(setting)));
 }
 
-QComboBox* PageBuilder::combo(editor::ComboBoxSetting& setting, const QString& label) {
+QComboBox* PageBuilder::combo(editor::ComboBoxSetting& setting) {
   QComboBox* const box = controls_.comboBox(setting.box, helpOf(setting));
-  row(setting, label, box);
+  row(setting, setting.label(), box);
   return box;
 }
 
-void PageBuilder::check(editor::CheckBoxSetting& setting, const QString& text) {
+void PageBuilder::check(editor::CheckBoxSetting& setting) {
+  const QString text = translatedLabel(setting.label());
   QWidget* const box = controls_.checkBox(setting.box, text, helpOf(setting));
   form_->addRow(QString(), box);
   addSettingWidget(setting, text, box, box);
 }
 
-void PageBuilder::steps(editor::StepperSetting& setting, const QString& label) {
-  row(setting, label, controls_.stepper(setting.stepper, setting.field, helpOf(setting)));
+void PageBuilder::steps(editor::StepperSetting& setting) {
+  row(setting, setting.label(), controls_.stepper(setting.stepper, setting.field, helpOf(setting)));
+}
+
+void PageBuilder::screen(editor::ScreenSetting& setting) {
+  using Screen = editor::ScreenSetting;
+  const QString help = helpOf(setting);
+  row(setting, Screen::partLabels[Screen::type], controls_.popUpButton(setting.screenType, help));
+  row(setting, Screen::partLabels[Screen::width], controls_.comboBox(setting.screenWidth, help));
+  row(setting, Screen::partLabels[Screen::height], controls_.comboBox(setting.screenHeight, help));
 }
 
 QWidget* PageBuilder::page() const {

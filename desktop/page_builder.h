@@ -11,8 +11,8 @@
 
 namespace desktop {
 
-/// Builds a form row by row and notes where each setting went. The letter behind "&" in a label
-/// leads to its widget.
+/// Builds a form row by row, a row for each setting, and records where each setting went. A label
+/// is the setting's own; the letter behind "&" in it leads to the widget.
 class PageBuilder {
  public:
   PageBuilder(Controls& controls, SettingWidgets& settingWidgets)
@@ -21,23 +21,22 @@ class PageBuilder {
   }
 
   void heading(const QString& text);
-  void field(editor::TextFieldSetting& setting, const QString& label, QWidget* button);
-  void field(editor::TextFieldSetting& setting, const QString& label);
-  void choice(editor::PopUpSetting& setting, const QString& label);
-  QComboBox* combo(editor::ComboBoxSetting& setting, const QString& label);
-  void check(editor::CheckBoxSetting& setting, const QString& text);
-  void steps(editor::StepperSetting& setting, const QString& label);
-
-  /// A row of a setting that has several.
-  void row(editor::Setting& setting, const QString& label, QWidget* widget);
+  void field(editor::TextFieldSetting& setting);
+  void field(editor::TextFieldSetting& setting, QWidget* button);
+  void choice(editor::PopUpSetting& setting);
+  QComboBox* combo(editor::ComboBoxSetting& setting);
+  void check(editor::CheckBoxSetting& setting);
+  void steps(editor::StepperSetting& setting);
+  /// Three rows.
+  void screen(editor::ScreenSetting& setting);
 
   [[nodiscard]] QFormLayout* form() const { return form_; }
-  [[nodiscard]] Controls& controls() const { return controls_; }
 
   /// A page with the form in it.
   [[nodiscard]] QWidget* page() const;
 
  private:
+  void row(editor::Setting& setting, const char* label, QWidget* widget);
   void addSettingWidget(editor::Setting& setting, const QString& label, QWidget* labelWidget,
                         QWidget* widget);
 

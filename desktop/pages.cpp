@@ -64,9 +64,8 @@ QWidget* volumesPage(const PageContext& context) {
   layout->addWidget(table, 1);
   layout->addLayout(buttons);
   PageBuilder builder(controls, context.settingWidgets);
-  builder.field(
-      shared.unixRootPath, tr("Shared fol&der:"),
-      controls.pushButton(shared.unixRoot, tr("Ch&oose…"), tr("Chooses the shared folder.")));
+  builder.field(shared.unixRootPath, controls.pushButton(shared.unixRoot, tr("Ch&oose…"),
+                                                         tr("Chooses the shared folder.")));
   layout->addLayout(builder.form());
   layout->addLayout(diagnosticsRow(controls, volumes));
   return page;
@@ -85,25 +84,21 @@ QWidget* scsiPage(const PageContext& context) {
 QWidget* machinePage(const PageContext& context) {
   editor::MachineGroup& machine = context.controller.machine;
   PageBuilder page(context.controls, context.settingWidgets);
-  page.field(machine.romFile, tr("&ROM file:"),
-             context.controls.pushButton(machine.browseROM.button, tr("Bro&wse…"),
-                                         tr("Chooses the ROM file.")));
-  page.choice(machine.stateStart, tr("&Boot drive:"));
-  page.combo(machine.ramSizeMB, tr("RA&M size (MB):"));
-  page.choice(machine.modelID, tr("M&odel:"));
-  page.choice(machine.cpuType, tr("Processor (CP&U):"));
-  page.check(machine.stateCDROM, tr("&Disable the CD-ROM drive"));
+  page.field(machine.romFile, context.controls.pushButton(machine.browseROM.button, tr("Bro&wse…"),
+                                                          tr("Chooses the ROM file.")));
+  page.choice(machine.stateStart);
+  page.combo(machine.ramSizeMB);
+  page.choice(machine.modelID);
+  page.choice(machine.cpuType);
+  page.check(machine.stateCDROM);
   return page.page();
 }
 
 QWidget* displayPage(const PageContext& context) {
-  editor::ScreenSetting& screen = context.controller.display.screen;
-  const QString help = helpOf(screen);
+  editor::DisplayGroup& display = context.controller.display;
   PageBuilder page(context.controls, context.settingWidgets);
-  page.row(screen, tr("Screen &mode:"), context.controls.popUpButton(screen.screenType, help));
-  page.row(screen, tr("&Width:"), context.controls.comboBox(screen.screenWidth, help));
-  page.row(screen, tr("Hei&ght:"), context.controls.comboBox(screen.screenHeight, help));
-  page.choice(context.controller.display.refreshRate, tr("Refresh r&ate:"));
+  page.screen(display.screen);
+  page.choice(display.refreshRate);
   return page.page();
 }
 
@@ -111,30 +106,29 @@ QWidget* soundPage(const PageContext& context) {
   editor::InputGroup& input = context.controller.input;
   PageBuilder page(context.controls, context.settingWidgets);
   page.heading(tr("Sound"));
-  page.check(input.disableSound, tr("&Disable sound"));
-  page.field(input.audioOut, tr("&Output device:"));
-  page.field(input.audioMix, tr("&Mixer device:"));
+  page.check(input.disableSound);
+  page.field(input.audioOut);
+  page.field(input.audioMix);
   page.heading(tr("Keyboard"));
-  page.check(input.rawKeys, tr("Use raw &key codes"));
-  page.field(input.rawKeyFile, tr("Ke&y code file:"),
+  page.check(input.rawKeys);
+  page.field(input.rawKeyFile,
              context.controls.pushButton(input.rawKeyFileSelect.button, tr("&Browse…"),
                                          tr("Chooses the key code file.")));
   page.heading(tr("Mouse"));
-  page.choice(input.mouseWheel, tr("Mouse &wheel:"));
-  page.steps(input.mouseScroll, tr("L&ines to scroll:"));
+  page.choice(input.mouseWheel);
+  page.steps(input.mouseScroll);
   return page.page();
 }
 
 QWidget* networkPage(const PageContext& context) {
   editor::NetworkGroup& network = context.controller.network;
   PageBuilder page(context.controls, context.settingWidgets);
-  for (QComboBox* const box : {page.combo(network.modemPort, tr("&Modem port:")),
-                               page.combo(network.printerPort, tr("P&rinter port:")),
-                               page.combo(network.etherPort, tr("Network &device:"))}) {
+  for (QComboBox* const box : {page.combo(network.modemPort), page.combo(network.printerPort),
+                               page.combo(network.etherPort)}) {
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   }
-  page.check(network.tunnelUDP, tr("Tunnel the net&work over UDP"));
-  page.steps(network.portUDP, tr("&UDP port:"));
+  page.check(network.tunnelUDP);
+  page.steps(network.portUDP);
   return page.page();
 }
 
@@ -142,14 +136,14 @@ QWidget* jitPage(const PageContext& context) {
   editor::JitGroup& jit = context.controller.jit;
   PageBuilder page(context.controls, context.settingWidgets);
   page.heading(tr("Just-in-time compiler"));
-  page.check(jit.enableJIT, tr("Enable the &JIT compiler"));
-  page.check(jit.compileFPU, tr("Compile floating-point instr&uctions"));
-  page.combo(jit.jitCache, tr("Cache si&ze (KB):"));
-  page.check(jit.lazyFlush, tr("Flush the cache lazil&y"));
-  page.check(jit.inlineBlocks, tr("Inline &blocks"));
+  page.check(jit.enableJIT);
+  page.check(jit.compileFPU);
+  page.combo(jit.jitCache);
+  page.check(jit.lazyFlush);
+  page.check(jit.inlineBlocks);
   page.heading(tr("Processor emulation"));
-  page.check(jit.ignoreSegV, tr("Ignore &memory faults"));
-  page.check(jit.dontUseCPU, tr("Rest while the Macintosh is &idle"));
+  page.check(jit.ignoreSegV);
+  page.check(jit.dontUseCPU);
   return page.page();
 }
 

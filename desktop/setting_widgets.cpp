@@ -14,20 +14,21 @@ namespace {
 
 QString keyWord(const document::KeyRow& row) { return toQString(std::string(row.text)).trimmed(); }
 
-// Of three parts, each shown by itself.
-QString shownScreen(const editor::ScreenSetting& screen) {
-  const auto [type, width, height] = screen.shownDefaultParts();
-  return tr("%1, %2 × %3").arg(translatedItem(type), toQString(width), toQString(height));
+// The title of an entry is translated under "Items", the state of a check box under "Help". All
+// other texts are the file's own, and no translation knows them.
+QString translatedValue(const std::string& text) {
+  const QString word = QCoreApplication::translate("Help", text.c_str());
+  return word == toQString(text) ? translatedItem(text) : word;
 }
 
 QString shownDefault(const editor::Setting& setting) {
   if (const auto* const screen = dynamic_cast<const editor::ScreenSetting*>(&setting)) {
-    return shownScreen(*screen);
+    const auto [type, width, height] =
+        screen->shownParts(document::rowOf(screen->key()).defaultValue);
+    return tr("%1, %2 × %3")
+        .arg(translatedItem(type), translatedItem(width), translatedItem(height));
   }
-  // Some defaults are words of ours, others are texts for the file.
-  const std::string text = setting.shownDefault();
-  const QString word = QCoreApplication::translate("Help", text.c_str());
-  return word == toQString(text) ? translatedItem(text) : word;
+  return translatedValue(setting.shownDefault());
 }
 
 void showMenu(QWidget* widget, const QPoint& position, editor::Setting& setting) {
@@ -82,13 +83,16 @@ void offerReset(const SettingWidget& place) {
   }
 }
 
+QString translatedLabel(const char* label) {
+  return QCoreApplication::translate("Settings", label);
+}
+
 QString plainText(const QString& label) {
-  constexpr QLatin1Char mark('&');
   QString plain;
   for (qsizetype at = 0; at < label.size(); ++at) {
     // Behind the mark stands the letter that it marks, or another mark that is meant.
-    at += label[at] == mark ? 1 : 0;
-    if (at < label.size() && label[at] != QLatin1Char(':')) {
+    at += label[at] == QLatin1Char('&') ? 1 : 0;
+    if (at < label.size()) {
       plain += label[at];
     }
   }

@@ -24,7 +24,10 @@ QString helpOf(const editor::Setting& setting);
 /// Offers to reset a setting in its widget's context menu.
 void offerReset(const SettingWidget& place);
 
-/// A label without what only the keyboard needs.
+/// The label of a setting, or of a part of one, in the person's language.
+QString translatedLabel(const char* label);
+
+/// A label without the marks of the letters that lead to widgets.
 QString plainText(const QString& label);
 
 }  // namespace desktop

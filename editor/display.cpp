@@ -5,17 +5,18 @@
 #include <cstdint>
 
 #include "platform/text.h"
-#include "platform/translatable.h"
 
 namespace editor {
 namespace {
 
-// The largest size there is: a word for people, a number in the file.
 constexpr std::string_view windowType = "win";
 constexpr std::string_view fullScreenType = "dga";
+// The largest size there is: a word for people, a number in the file.
 constexpr std::string_view maximumWord = "Maximum";
 constexpr std::string_view maximumValue = "0";
 constexpr std::size_t maximumIndex = 4;
+
+constexpr std::size_t entryOfType(std::string_view type) { return type == windowType ? 0 : 1; }
 
 struct Rate {
   std::string_view title;
@@ -46,9 +47,9 @@ ScreenSetting::ScreenSetting(ControlGroup& group)
               {.heading = Announcement::Heading::keyText, .form = Announcement::Form::matches}),
       screenType(outletOf(Key::screen)),
       screenWidth("screenWidth"),
-      screenHeight("screenHeight"),
-      screenhoriz_{"1024", "800", "640", "512", std::string(maximumWord)},
-      screenvert_{"768", "600", "480", "384", std::string(maximumWord)} {
+      screenHeight("screenHeight") {
+  screenWidth.addItems({"1024", "800", "640", "512", std::string(maximumWord)});
+  screenHeight.addItems({"768", "600", "480", "384", std::string(maximumWord)});
   screenType.addItems(
       {platform::translatable("Items", "Window"), platform::translatable("Items", "Full screen")});
   screenType.action = [this] { videoType(); };
@@ -61,25 +62,17 @@ void ScreenSetting::fill() {
   for (const std::string& part : screensep_) {
     print("Screen: ", part);
   }
-  screenWidth.addItems(screenhoriz_);
-  screenHeight.addItems(screenvert_);
-  showParts();
+  show();
 }
 
-void ScreenSetting::showValue() {
+void ScreenSetting::show() {
   split();
-  showParts();
-}
-
-void ScreenSetting::showParts() {
-  if (screensep_[type] == windowType) {
-    screenType.selectItem(0);
-  } else {
+  if (screensep_[type] != windowType) {
     screensep_[type] = fullScreenType;
-    screenType.selectItem(1);
   }
-  showSize(width, screenWidth, screenhoriz_);
-  showSize(height, screenHeight, screenvert_);
+  screenType.selectItem(entryOfType(screensep_[type]));
+  showSize(width, screenWidth);
+  showSize(height, screenHeight);
 }
 
 // Parts that the value lacks come from the default; more than three are dropped.
@@ -98,10 +91,20 @@ ScreenSetting::Parts ScreenSetting::partsOf(std::string_view value) const {
   return parts;
 }
 
-ScreenSetting::Parts ScreenSetting::shownDefaultParts() const {
-  Parts parts = partsOf(row().defaultValue);
-  parts[type] = screenType.items().at(parts[type] == windowType ? 0 : 1);
+ScreenSetting::Parts ScreenSetting::shownParts(std::string_view value) const {
+  Parts parts = partsOf(value);
+  parts[type] = screenType.items().at(entryOfType(parts[type]));
+  for (const Part size : {width, height}) {
+    if (parts[size] == maximumValue) {
+      parts[size] = maximumWord;
+    }
+  }
   return parts;
+}
+
+std::string ScreenSetting::shownText(std::string_view value) const {
+  const Parts parts = shownParts(value);
+  return parts[type] + ", " + parts[width] + " \u00d7 " + parts[height];
 }
 
 bool ScreenSetting::knows(std::string_view value) const {
@@ -120,16 +123,13 @@ std::vector<std::string> ScreenSetting::shown() const {
           screenWidth.stringValue(), screenHeight.stringValue()};
 }
 
-void ScreenSetting::showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
+void ScreenSetting::showSize(Part part, platform::ComboBox& box) {
   const std::string& size = screensep_[part];
-  auto found = std::find(sizes.begin(), sizes.end(), size);
-  if (found == sizes.end() && size == maximumValue) {
-    found = sizes.begin() + maximumIndex;
-  } else if (found == sizes.end()) {
-    found = sizes.insert(found, size);
-    box.addItem(size);
+  if (size != maximumValue) {
+    selectOrAdd(box, size);
+  } else if (!box.selectItemWithText(size)) {
+    box.selectItem(maximumIndex);
   }
-  box.selectItem(static_cast<std::size_t>(found - sizes.begin()));
 }
 
 void ScreenSetting::videoType() {
@@ -139,14 +139,13 @@ void ScreenSetting::videoType() {
   print(screensep_[type]);
 }
 
-void ScreenSetting::editSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes) {
+void ScreenSetting::editSize(Part part, platform::ComboBox& box) {
   const auto index = box.indexOfSelectedItem();
   if (!index) {
     screensep_[part] = box.stringValue();
-    sizes.push_back(screensep_[part]);
     box.addItem(screensep_[part]);
   } else {
-    screensep_[part] = *index == maximumIndex ? std::string(maximumValue) : sizes[*index];
+    screensep_[part] = *index == maximumIndex ? std::string(maximumValue) : box.items()[*index];
   }
   print(screensep_[part]);
 }
@@ -179,7 +178,11 @@ std::size_t RefreshRateSetting::entryOf(std::string_view value) const {
   const auto frameskip = platform::parseInt64(value);
   const auto* const rate = std::find_if(
       rates.begin(), rates.end(), [&](const Rate& known) { return known.frameskip == frameskip; });
-  return static_cast<std::size_t>(rate - rates.begin());
+  if (rate != rates.end()) {
+    return static_cast<std::size_t>(rate - rates.begin());
+  }
+  const auto other = std::find(otherValues_.begin(), otherValues_.end(), value);
+  return rates.size() + static_cast<std::size_t>(other - otherValues_.begin());
 }
 
 bool RefreshRateSetting::knows(std::string_view value) const {
@@ -189,20 +192,25 @@ bool RefreshRateSetting::knows(std::string_view value) const {
 void RefreshRateSetting::fill() {
   const auto frameskip = platform::parseInt64(value());
   const std::size_t position = entryOf(value());
-  const bool known = position < rates.size();
-  if (!known) {
-    fileValue_ = value();
-    button.addItems({fileValue_ + " (from the file)"});
-  }
-  print("NEWFRESH!!  ", known ? std::to_string(position) : "nil");
-  print("REFRESH!!  ", known ? std::to_string(position) : "nil");
+  const std::string positionText = position < rates.size() ? std::to_string(position) : "nil";
+  print("NEWFRESH!!  ", positionText);
+  print("REFRESH!!  ", positionText);
   print("ACTUAL!!!  ", frameskip ? std::to_string(*frameskip) : value());
-  button.selectItem(position);
+  show();
+}
+
+void RefreshRateSetting::show() {
+  if (entryOf(value()) == button.items().size()) {
+    otherValues_.push_back(value());
+    button.addItems({value() + " (from the file)"});
+  }
+  PopUpSetting::show();
 }
 
 void RefreshRateSetting::refreshRate(std::size_t index) {
   print(std::to_string(index));
-  setValue(index < rates.size() ? std::to_string(rates[index].frameskip) : fileValue_);
+  setValue(index < rates.size() ? std::to_string(rates[index].frameskip)
+                                : otherValues_.at(index - rates.size()));
   print(value());
 }
 

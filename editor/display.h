@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editor/shapes.h"
+#include "platform/translatable.h"
 
 namespace editor {
 
@@ -26,31 +27,32 @@ class ScreenSetting : public Setting {
   [[nodiscard]] bool knows(std::string_view value) const override;
   [[nodiscard]] std::vector<std::string> shown() const override;
 
+  enum Part : std::size_t { type, width, height };
   using Parts = std::array<std::string, 3>;
 
-  /// The default as the three controls show it.
-  [[nodiscard]] Parts shownDefaultParts() const;
+  /// What the window calls the parts, written as the labels of settings are.
+  static constexpr std::array<const char*, 3> partLabels = {
+      platform::translatable("Settings", "Screen &mode"),
+      platform::translatable("Settings", "&Width"), platform::translatable("Settings", "Hei&ght")};
+
+  /// A value as the three controls show it.
+  [[nodiscard]] Parts shownParts(std::string_view value) const;
+  [[nodiscard]] std::string shownText(std::string_view value) const override;
 
  protected:
   void fill() override;
-  void showValue() override;
+  void show() override;
 
  private:
-  enum Part : std::size_t { type, width, height };
-
   [[nodiscard]] Parts partsOf(std::string_view value) const;
   void split() { screensep_ = partsOf(value()); }
   void videoType();
-  void winWidth() { editSize(width, screenWidth, screenhoriz_); }
-  void winHeight() { editSize(height, screenHeight, screenvert_); }
-
-  void showParts();
-  void showSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
-  void editSize(Part part, platform::ComboBox& box, std::vector<std::string>& sizes);
+  void winWidth() { editSize(width, screenWidth); }
+  void winHeight() { editSize(height, screenHeight); }
+  void showSize(Part part, platform::ComboBox& box);
+  void editSize(Part part, platform::ComboBox& box);
 
   Parts screensep_;
-  std::vector<std::string> screenhoriz_;
-  std::vector<std::string> screenvert_;
 };
 
 /// How often the screen is drawn.
@@ -62,14 +64,14 @@ class RefreshRateSetting : public PopUpSetting {
 
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
-  void showValue() override { PopUpSetting::fill(); }
   void fill() override;
+  void show() override;
   void chosen(std::size_t index) override { refreshRate(index); }
 
  private:
   void refreshRate(std::size_t index);
 
-  std::string fileValue_;  // behind the last entry, when the file holds none of the known rates
+  std::vector<std::string> otherValues_;  // of the entries behind the known rates
 };
 
 class DisplayGroup : public ControlGroup {

@@ -11,11 +11,14 @@ RawKeysSetting::RawKeysSetting(ControlGroup& group, TextFieldSetting& file)
                        .label = "results9: "}),
       file_(file) {}
 
-void RawKeysSetting::fill() {
-  if (value() == "true" || value() == "false") {
-    box.setOn(value() == "true");
-    file_.field.setEnabled(box.isOn());
-  }
+// Any other value than the two leaves the box off and the field open, as they are in a new window.
+void RawKeysSetting::show() {
+  box.setOn(value() == "true");
+  file_.field.setEnabled(value() != "false");
+}
+
+std::string RawKeysSetting::shownText(std::string_view value) const {
+  return CheckBoxSetting::shownText(value == "true" ? "true" : "false");
 }
 
 void RawKeysSetting::rawKeycodes() {
@@ -35,9 +38,9 @@ std::size_t MouseWheelSetting::entryOf(std::string_view value) const {
   return value == "1" ? 1 : 0;
 }
 
-void MouseWheelSetting::fill() {
+void MouseWheelSetting::show() {
   setValue(entryOf(value()) == 1 ? "1" : "0");
-  PopUpSetting::fill();
+  PopUpSetting::show();
 }
 
 void MouseWheelSetting::mouseWheel(std::size_t index) {

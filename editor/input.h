@@ -9,8 +9,10 @@ class RawKeysSetting : public CheckBoxSetting {
  public:
   RawKeysSetting(ControlGroup& group, TextFieldSetting& file);
 
+  [[nodiscard]] std::string shownText(std::string_view value) const override;
+
  protected:
-  void fill() override;
+  void show() override;
   void clicked() override { rawKeycodes(); }
 
  private:
@@ -29,7 +31,7 @@ class MouseWheelSetting : public PopUpSetting {
 
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
-  void fill() override;
+  void show() override;
   void chosen(std::size_t index) override { mouseWheel(index); }
 
  private:

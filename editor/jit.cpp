@@ -1,21 +1,12 @@
 #include "editor/jit.h"
 
-#include <algorithm>
-
 #include "platform/text.h"
 
 namespace editor {
 
 JitCacheSetting::JitCacheSetting(ControlGroup& group)
-    : ComboBoxSetting(group, Key::jitcachesize, {.heading = Announcement::Heading::keyText}),
-      jitCacheSizes_{"2048", "4096", "8192", "16384"} {}
-
-void JitCacheSetting::fill() {
-  if (std::find(jitCacheSizes_.begin(), jitCacheSizes_.end(), value()) == jitCacheSizes_.end()) {
-    jitCacheSizes_.push_back(value());
-  }
-  box.addItems(jitCacheSizes_);
-  select(value());
+    : ComboBoxSetting(group, Key::jitcachesize, {.heading = Announcement::Heading::keyText}) {
+  box.addItems({"2048", "4096", "8192", "16384"});
 }
 
 bool JitCacheSetting::knows(std::string_view value) const {
@@ -30,7 +21,6 @@ void JitCacheSetting::jitCachSize() {
 
 void JitCacheSetting::typed(const std::string& text) {
   setValue(text);
-  jitCacheSizes_.push_back(text);
   box.addItem(text);
 }
 

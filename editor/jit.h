@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "editor/shapes.h"
 
@@ -14,16 +13,13 @@ class JitCacheSetting : public ComboBoxSetting {
   [[nodiscard]] bool knows(std::string_view value) const override;
 
  protected:
-  void fill() override;
-  void showValue() override { select(value()); }
+  void show() override { selectOrAdd(box, value()); }
   void typed(const std::string& text) override;
-  void chosen(std::size_t index) override { setValue(jitCacheSizes_[index]); }
+  void chosen(std::size_t index) override { setValue(box.items()[index]); }
   void edited() override { jitCachSize(); }
 
  private:
   void jitCachSize();
-
-  std::vector<std::string> jitCacheSizes_;
 };
 
 /// The just-in-time compiler, and how the processor is emulated.

@@ -41,6 +41,17 @@ std::optional<std::int64_t> bytesOf(std::string_view megabytes) {
   return *count * bytesPerMegabyte;
 }
 
+// One behind the last where the pair stands in no row.
+std::size_t entryOfPair(std::string_view cpu, std::string_view fpu) {
+  if (fpu != "false" && fpu != "true") {
+    return 0;
+  }
+  const auto* const found = std::find_if(
+      processors.begin(), processors.end(),
+      [&](const Processor& processor) { return processor.cpu == cpu && processor.fpu == fpu; });
+  return static_cast<std::size_t>(found - processors.begin());
+}
+
 }  // namespace
 
 void RomSetting::lookUp() {
@@ -84,8 +95,8 @@ BootDriveSetting::BootDriveSetting(ControlGroup& group)
 
 std::size_t BootDriveSetting::entryOf(std::string_view value) const { return value == "0" ? 0 : 1; }
 
-void BootDriveSetting::fill() {
-  PopUpSetting::fill();
+void BootDriveSetting::show() {
+  PopUpSetting::show();
   setValue(entryOf(value()) == 0 ? "0" : "1");
 }
 
@@ -95,40 +106,44 @@ void BootDriveSetting::startDevice(std::size_t index) {
 }
 
 RamSizeSetting::RamSizeSetting(ControlGroup& group)
-    : ComboBoxSetting(group, Key::ramsize, {.heading = Announcement::Heading::named}),
-      ramSizes_{"1024", "512", "256", "128", "64", "32", "16", "8", "4", "2"} {
+    : ComboBoxSetting(group, Key::ramsize, {.heading = Announcement::Heading::named}) {
   box.setCompletes(true);
+  box.addItems({"1024", "512", "256", "128", "64", "32", "16", "8", "4", "2"});
 }
 
+// As a number in the unit that suits it: a gigabyte is shown as "1".
 void RamSizeSetting::fill() {
-  if (const auto bytes = platform::parseInt64(value())) {
-    const std::string text = memoryText(*bytes);
-    if (std::find(ramSizes_.begin(), ramSizes_.end(), text) == ramSizes_.end()) {
-      ramSizes_.push_back(text);
-    }
-    if (!platform::parseInt64(text)) {
-      fileSizes_[text] = value();
-    }
+  const auto bytes = platform::parseInt64(value());
+  if (!bytes) {
+    box.enterText(value());
+    return;
   }
-  box.addItems(ramSizes_);
-  showStoredSize();
+  const std::string text = memoryText(*bytes);
+  if (!platform::parseInt64(text)) {
+    fileSizes_[text] = value();
+  }
+  selectOrAdd(box, text);
 }
 
-std::string RamSizeSetting::shownDefault() const {
-  return memoryText(platform::parseInt64(row().defaultValue).value_or(0));
+// A size of the list is shown as it stands there, in megabytes.
+void RamSizeSetting::show() {
+  if (!box.selectItemWithText(shownText(value()))) {
+    fill();
+  }
+}
+
+std::string RamSizeSetting::shownText(std::string_view value) const {
+  const auto bytes = platform::parseInt64(value);
+  if (!bytes) {
+    return std::string(value);
+  }
+  return *bytes % bytesPerMegabyte == 0 ? std::to_string(*bytes / bytesPerMegabyte)
+                                        : memoryText(*bytes);
 }
 
 bool RamSizeSetting::knows(std::string_view value) const {
   const auto bytes = platform::parseInt64(value);
   return bytes && *bytes > 0;
-}
-
-void RamSizeSetting::showStoredSize() {
-  const auto bytes = platform::parseInt64(value());
-  const std::string text = bytes ? memoryText(*bytes) : value();
-  if (!bytes || !select(text)) {
-    box.enterText(text);
-  }
 }
 
 void RamSizeSetting::ramSize() {
@@ -142,22 +157,16 @@ void RamSizeSetting::ramSize() {
 void RamSizeSetting::typed(const std::string& text) {
   const auto bytes = bytesOf(text);
   if (!bytes) {
-    // In megabytes where the list has it so: as text for people, 1024 of them would be "1".
-    const auto stored = platform::parseInt64(value());
-    if (!stored || *stored % bytesPerMegabyte != 0 ||
-        !select(std::to_string(*stored / bytesPerMegabyte))) {
-      showStoredSize();
-    }
+    show();
     return;
   }
   setValue(std::to_string(*bytes));
   print(value());
-  ramSizes_.push_back(text);
   box.addItem(text);
 }
 
 void RamSizeSetting::chosen(std::size_t index) {
-  const std::string& entry = ramSizes_[index];
+  const std::string& entry = box.items()[index];
   if (const auto megabytes = platform::parseInt64(entry)) {
     setValue(std::to_string(*megabytes * bytesPerMegabyte));
   } else if (const auto known = fileSizes_.find(entry); known != fileSizes_.end()) {
@@ -182,40 +191,41 @@ ProcessorSetting::ProcessorSetting(ControlGroup& group)
                    {"68020", translatable("Items", "68020 with FPU"), "68030",
                     translatable("Items", "68030 with FPU"), "68040"}) {}
 
-std::size_t ProcessorSetting::entryOf(std::string_view value) const {
-  return entryOf(group().preferences.value(Key::cpu), value);
+std::size_t ProcessorSetting::entryOf(std::string_view fpu) const {
+  return entryOfPair(cpu(), fpu);
 }
 
-// One behind the last where the pair stands in no row.
-std::size_t ProcessorSetting::entryOf(std::string_view cpu, std::string_view fpu) {
-  if (fpu != "false" && fpu != "true") {
-    return 0;
-  }
-  const auto* const found = std::find_if(
-      processors.begin(), processors.end(),
-      [&](const Processor& processor) { return processor.cpu == cpu && processor.fpu == fpu; });
-  return static_cast<std::size_t>(found - processors.begin());
+bool ProcessorSetting::knowsProcessor(std::string_view processor) const {
+  return !knows(value()) || entryOfPair(processor, value()) < processors.size();
 }
 
-bool ProcessorSetting::knowsProcessor(std::string_view cpu) const {
-  return !knows(value()) || entryOf(cpu, value()) < processors.size();
+// A pair that stands in no row shows the first entry, as a new window does.
+void ProcessorSetting::show() {
+  const std::size_t entry = entryOf(value());
+  button.selectItem(entry < processors.size() ? entry : 0);
 }
 
-// Such a pair leaves the button as it is.
-void ProcessorSetting::fill() {
-  if (entryOf(value()) < processors.size()) {
-    PopUpSetting::fill();
-  }
+std::string ProcessorSetting::shownPair(std::string_view cpu, std::string_view fpu) const {
+  const std::size_t entry = entryOfPair(cpu, fpu);
+  return entry < processors.size() ? button.items()[entry]
+                                   : std::string("cpu ").append(cpu).append(", fpu ").append(fpu);
+}
+
+std::string ProcessorSetting::shownText(std::string_view fpu) const {
+  return shownPair(cpu(), fpu);
 }
 
 std::string ProcessorSetting::shownDefault() const {
-  return button.items().at(entryOf(document::rowOf(Key::cpu).defaultValue, row().defaultValue));
+  return shownPair(document::rowOf(Key::cpu).defaultValue, row().defaultValue);
 }
 
-// Both keys go back together.
-void ProcessorSetting::showValue() {
+void ProcessorSetting::reset() {
   group().preferences.setValue(Key::cpu, std::string(document::rowOf(Key::cpu).defaultValue));
-  fill();
+  PopUpSetting::reset();
+}
+
+std::string CpuSetting::shownText(std::string_view value) const {
+  return processor_.shownPair(value, group().preferences.value(Key::fpu));
 }
 
 void ProcessorSetting::cpuType(std::size_t index) {

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "editor/shapes.h"
@@ -27,7 +28,7 @@ class BootDriveSetting : public PopUpSetting {
 
  protected:
   [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
-  void fill() override;
+  void show() override;
   void chosen(std::size_t index) override { startDevice(index); }
 
  private:
@@ -39,22 +40,22 @@ class RamSizeSetting : public ComboBoxSetting {
  public:
   explicit RamSizeSetting(ControlGroup& group);
 
-  [[nodiscard]] std::string shownDefault() const override;
   [[nodiscard]] bool knows(std::string_view value) const override;
   [[nodiscard]] std::vector<std::string> shown() const override { return {box.stringValue()}; }
 
+  /// In megabytes where it is a whole number of them.
+  [[nodiscard]] std::string shownText(std::string_view value) const override;
+
  protected:
-  void showValue() override { showStoredSize(); }
   void fill() override;
+  void show() override;
   void typed(const std::string& text) override;
   void chosen(std::size_t index) override;
   void edited() override { ramSize(); }
 
  private:
   void ramSize();
-  void showStoredSize();
 
-  std::vector<std::string> ramSizes_;
   std::map<std::string, std::string> fileSizes_;  // bytes of the entries that are no whole number
 };
 
@@ -74,8 +75,8 @@ class ModelSetting : public PopUpSetting {
   void modelID(std::size_t index);
 };
 
-/// The processor and its floating-point unit: two keys behind one button. This is the place of the
-/// second one; the first is looked up before.
+/// The processor and its floating-point unit: two keys behind one button. This is the setting of
+/// the second one, which is looked up when the first is known.
 class ProcessorSetting : public PopUpSetting {
  public:
   explicit ProcessorSetting(ControlGroup& group);
@@ -85,33 +86,46 @@ class ProcessorSetting : public PopUpSetting {
     return value == "true" || value == "false";
   }
   /// Whether there is an entry for a processor with the present value of this key.
-  [[nodiscard]] bool knowsProcessor(std::string_view cpu) const;
+  [[nodiscard]] bool knowsProcessor(std::string_view processor) const;
+  [[nodiscard]] std::string shownText(std::string_view fpu) const override;
   [[nodiscard]] std::string shownDefault() const override;
 
+  /// What the button shows for a pair of values.
+  [[nodiscard]] std::string shownPair(std::string_view cpu, std::string_view fpu) const;
+
+  /// Resets both keys.
+  void reset() override;
+
+  void show() override;
+
  protected:
-  [[nodiscard]] std::size_t entryOf(std::string_view value) const override;
-  void showValue() override;
-  void fill() override;
+  [[nodiscard]] std::size_t entryOf(std::string_view fpu) const override;
   void chosen(std::size_t index) override { cpuType(index); }
 
  private:
-  static std::size_t entryOf(std::string_view cpu, std::string_view fpu);
+  [[nodiscard]] std::string_view cpu() const { return group().preferences.value(Key::cpu); }
   void cpuType(std::size_t index);
 };
 
-/// The processor's own key. The button of the other one shows both.
+/// The processor's own key, which the button of the other one shows.
 class CpuSetting : public Setting {
  public:
-  CpuSetting(ControlGroup& group, const ProcessorSetting& button)
-      : Setting(group, Key::cpu, {.form = Announcement::Form::value}), button_(button) {}
+  CpuSetting(ControlGroup& group, ProcessorSetting& processor)
+      : Setting(group, Key::cpu, {.form = Announcement::Form::value}), processor_(processor) {}
 
   [[nodiscard]] bool knows(std::string_view value) const override {
-    return button_.knowsProcessor(value);
+    return processor_.knowsProcessor(value);
   }
-  [[nodiscard]] std::vector<std::string> shown() const override { return button_.shown(); }
+  [[nodiscard]] std::vector<std::string> shown() const override { return processor_.shown(); }
+  [[nodiscard]] std::string shownText(std::string_view value) const override;
+
+ protected:
+  // The button waits for the second key to be looked up.
+  void fill() override {}
+  void show() override { processor_.show(); }
 
  private:
-  const ProcessorSetting& button_;
+  ProcessorSetting& processor_;
 };
 
 /// What the emulated machine consists of.

@@ -5,14 +5,10 @@ namespace editor {
 PortSetting::PortSetting(ControlGroup& group, Key key, Echo echo)
     : ComboBoxSetting(group, key, {.heading = Announcement::Heading::keyText}), echo_(echo) {}
 
-void PortSetting::fill() {
-  box.addItem(value());
-  box.selectItem(box.items().size() - 1);
-}
-
-void PortSetting::showValue() {
+void PortSetting::show() {
   box.removeAllItems();
-  fill();
+  box.addItem(value());
+  box.selectItem(0);
 }
 
 void PortSetting::edited() {

@@ -14,8 +14,7 @@ class PortSetting : public ComboBoxSetting {
   PortSetting(ControlGroup& group, Key key, Echo echo = Echo::value);
 
  protected:
-  void fill() override;
-  void showValue() override;
+  void show() override;
   void typed(const std::string& text) override;
   void chosen(std::size_t /*index*/) override {}
   void edited() override;

@@ -1,5 +1,9 @@
 #include "editor/setting.h"
 
+#include <cstdlib>
+#include <iostream>
+#include <utility>
+
 namespace editor {
 
 Setting::Setting(ControlGroup& group, Key key, Announcement announcement)
@@ -14,9 +18,13 @@ void Setting::load() {
   fill();
 }
 
+void Setting::assign(std::string value) {
+  setValue(std::move(value));
+  show();
+}
+
 void Setting::reset() {
-  setValue(std::string(row().defaultValue));
-  showValue();
+  assign(std::string(row().defaultValue));
   print(value());
 }
 
@@ -55,6 +63,28 @@ void Setting::printResult() const {
       print(label, platform::listText(group_.preferences.settings.allContaining(row().text)));
       break;
   }
+}
+
+std::array<Setting*, document::keyCount> settingsByKey(
+    std::initializer_list<const ControlGroup*> groups) {
+  std::array<Setting*, document::keyCount> settings{};
+  const auto giveUp = [](const char* problem, Key key) {
+    std::cerr << problem << " for the key " << document::rowOf(key).text << std::endl;
+    std::abort();
+  };
+  for (const ControlGroup* const group : groups) {
+    for (Setting* const setting : group->settings()) {
+      if (std::exchange(settings.at(document::indexOf(setting->key())), setting) != nullptr) {
+        giveUp("Two settings", setting->key());
+      }
+    }
+  }
+  for (const document::KeyRow& row : document::keyTable) {
+    if (settings.at(document::indexOf(row.key)) == nullptr) {
+      giveUp("No setting", row.key);
+    }
+  }
+  return settings;
 }
 
 }  // namespace editor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,14 +77,25 @@ class Setting {
   /// Looks the key up and shows its value.
   void load();
 
-  /// Makes the default the value and shows it: an edit like any other.
-  void reset();
+  /// Makes a text the value and shows it as a window over a file with that value would. This is the
+  /// way to change a setting without its control.
+  void assign(std::string value);
+
+  /// Assigns the default, and tells the diagnostics.
+  virtual void reset();
 
   /// The key whose row explains the control, where it shows more than one.
   [[nodiscard]] virtual Key explainedKey() const { return key_; }
 
-  /// The default as a person sees it in the control.
-  [[nodiscard]] virtual std::string shownDefault() const { return std::string(row().defaultValue); }
+  /// What the window calls the setting, as it stands in the table.
+  [[nodiscard]] const char* label() const { return document::rowOf(explainedKey()).label; }
+
+  /// A value as its control shows it to a person.
+  [[nodiscard]] virtual std::string shownText(std::string_view value) const {
+    return std::string(value);
+  }
+  [[nodiscard]] std::string shownValue() const { return shownText(valueToSave()); }
+  [[nodiscard]] virtual std::string shownDefault() const { return shownText(row().defaultValue); }
 
   /// Whether the control has a way to show a value.
   [[nodiscard]] virtual bool knows(std::string_view /*value*/) const { return true; }
@@ -96,11 +109,11 @@ class Setting {
  protected:
   virtual void lookUp() { group_.preferences.lookUp(key_, announcement_.found); }
 
-  /// Brings the controls in line with the value after the lookup.
-  virtual void fill() {}
+  /// Shows the value that has been looked up, with the diagnostics that go with that.
+  virtual void fill() { show(); }
 
-  /// Brings the controls, filled before, in line with the value.
-  virtual void showValue() { fill(); }
+  /// Brings the controls in line with the value, whatever it is and whatever they showed before.
+  virtual void show() {}
 
   [[nodiscard]] const document::KeyRow& row() const { return document::rowOf(key_); }
   [[nodiscard]] const std::string& value() const { return group_.preferences.value(key_); }
@@ -120,6 +133,11 @@ class Setting {
   Key key_;
   Announcement announcement_;
 };
+
+/// The settings of all groups by index. Ends the program, with a word to the developer, when a key
+/// has no setting or two.
+std::array<Setting*, document::keyCount> settingsByKey(
+    std::initializer_list<const ControlGroup*> groups);
 
 /// The name that code, tests and tools know the key's control by.
 inline std::string outletOf(Key key) { return std::string(document::rowOf(key).control); }

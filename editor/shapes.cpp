@@ -1,6 +1,5 @@
 #include "editor/shapes.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -15,19 +14,16 @@ CheckBoxSetting::CheckBoxSetting(ControlGroup& group, Key key, Echo echo, Announ
   box.action = [this] { clicked(); };
 }
 
-void CheckBoxSetting::fill() { box.setOn(value() != "false"); }
+void CheckBoxSetting::show() { box.setOn(value() != "false"); }
 
-namespace {
-
-const char* wordFor(bool isOn) {
-  return isOn ? platform::translatable("Help", "on") : platform::translatable("Help", "off");
+std::string CheckBoxSetting::shownText(std::string_view value) const {
+  return value == "false" ? platform::translatable("Help", "off")
+                          : platform::translatable("Help", "on");
 }
 
-}  // namespace
-
-std::string CheckBoxSetting::shownDefault() const { return wordFor(row().defaultValue != "false"); }
-
-std::vector<std::string> CheckBoxSetting::shown() const { return {wordFor(box.isOn())}; }
+std::vector<std::string> CheckBoxSetting::shown() const {
+  return {CheckBoxSetting::shownText(box.isOn() ? "true" : "false")};
+}
 
 void CheckBoxSetting::clicked() {
   if (box.state() == platform::State::mixed && echo_ != Echo::truth) {
@@ -55,9 +51,8 @@ void TextFieldSetting::committed() {
 }
 
 void TextFieldSetting::setChosenPath(const std::string& path) {
-  setValue(path);
+  assign(path);
   print(path);
-  field.setStringValue(path);
 }
 
 ComboBoxSetting::ComboBoxSetting(ControlGroup& group, Key key, Announcement announcement)
@@ -73,14 +68,11 @@ void ComboBoxSetting::edited() {
   }
 }
 
-bool ComboBoxSetting::select(std::string_view text) {
-  const auto& items = box.items();
-  const auto found = std::find(items.begin(), items.end(), text);
-  if (found == items.end()) {
-    return false;
+void selectOrAdd(platform::ComboBox& box, const std::string& text) {
+  if (!box.selectItemWithText(text)) {
+    box.addItem(text);
+    box.selectItem(box.items().size() - 1);
   }
-  box.selectItem(static_cast<std::size_t>(found - items.begin()));
-  return true;
 }
 
 StepperSetting::StepperSetting(ControlGroup& group, Key key, std::string stepperName,
@@ -92,8 +84,6 @@ StepperSetting::StepperSetting(ControlGroup& group, Key key, std::string stepper
       echo_(echo) {
   // What is typed into the field would change nothing: only the arrows do.
   field.setEditable(false);
-  stepper.setIntegerValue(
-      platform::parseInt32(row().defaultValue).value_or(stepper.range().minimum));
   stepper.action = [this] { stepped(); };
 }
 
@@ -102,11 +92,12 @@ bool StepperSetting::knows(std::string_view value) const {
   return number && *number >= stepper.range().minimum && *number <= stepper.range().maximum;
 }
 
-void StepperSetting::fill() {
+void StepperSetting::show() {
   field.setStringValue(value());
-  if (const auto number = platform::parseInt32(value())) {
-    stepper.setIntegerValue(*number);
-  }
+  // Where the value is no number, the arrows begin at the default.
+  const auto number = platform::parseInt32(value());
+  const auto defaultNumber = platform::parseInt32(row().defaultValue);
+  stepper.setIntegerValue(number.value_or(defaultNumber.value_or(stepper.range().minimum)));
 }
 
 void StepperSetting::stepped() {
@@ -124,8 +115,9 @@ PopUpSetting::PopUpSetting(ControlGroup& group, Key key, const std::vector<std::
   button.action = [this] { chosen(button.indexOfSelectedItem().value_or(0)); };
 }
 
-std::string PopUpSetting::shownDefault() const {
-  return button.items().at(entryOf(row().defaultValue));
+std::string PopUpSetting::shownText(std::string_view value) const {
+  const std::size_t entry = entryOf(value);
+  return entry < button.items().size() ? button.items()[entry] : std::string(value);
 }
 
 std::vector<std::string> PopUpSetting::shown() const {

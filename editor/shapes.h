@@ -22,14 +22,14 @@ class CheckBoxSetting : public Setting {
 
   platform::Button box;
 
-  [[nodiscard]] std::string shownDefault() const override;
+  [[nodiscard]] std::string shownText(std::string_view value) const override;
   [[nodiscard]] bool knows(std::string_view value) const override {
     return value == "true" || value == "false";
   }
   [[nodiscard]] std::vector<std::string> shown() const override;
 
  protected:
-  void fill() override;
+  void show() override;
   virtual void clicked();
 
  private:
@@ -47,7 +47,7 @@ class TextFieldSetting : public Setting {
   void setChosenPath(const std::string& path);
 
  protected:
-  void fill() override { field.setStringValue(value()); }
+  void show() override { field.setStringValue(value()); }
 
  private:
   void committed();
@@ -64,10 +64,10 @@ class ComboBoxSetting : public Setting {
   virtual void typed(const std::string& text) = 0;
   virtual void chosen(std::size_t index) = 0;
   virtual void edited();
-
-  /// Selects the entry of that text, the first of several; returns whether there is one.
-  bool select(std::string_view text);
 };
+
+/// Selects the entry with that text, which becomes the last one when there is none.
+void selectOrAdd(platform::ComboBox& box, const std::string& text);
 
 /// A number that two arrows count up and down. Any other text stays in the field and in the file
 /// until the arrows are used.
@@ -83,7 +83,7 @@ class StepperSetting : public Setting {
   [[nodiscard]] bool knows(std::string_view value) const override;
 
  protected:
-  void fill() override;
+  void show() override;
 
  private:
   void stepped();
@@ -99,13 +99,13 @@ class PopUpSetting : public Setting {
 
   platform::PopUpButton button;
 
-  [[nodiscard]] std::string shownDefault() const override;
+  [[nodiscard]] std::string shownText(std::string_view value) const override;
   [[nodiscard]] std::vector<std::string> shown() const override;
 
  protected:
-  /// The entry that is shown for a value.
+  /// The entry that stands for a value; one behind the last where none does.
   [[nodiscard]] virtual std::size_t entryOf(std::string_view value) const = 0;
-  void fill() override { button.selectItem(entryOf(value())); }
+  void show() override { button.selectItem(entryOf(value())); }
   virtual void chosen(std::size_t index) = 0;
 };
 

@@ -18,8 +18,7 @@ void SharedFolderGroup::chooseFolder() {
   const auto chosen = panels.runModal(panel);
   if (!chosen.empty()) {
     const std::string path = chosen.front().path();
-    preferences.setValue(Key::extfs, path);
-    unixRootPath.field.setStringValue(path);
+    unixRootPath.assign(path);
     output.print(document::Preferences::line(Key::extfs, path));
   }
 }

@@ -1,6 +1,5 @@
 #include "editor/view_controller.h"
 
-#include <initializer_list>
 #include <string>
 
 #include "app/emulator_location.h"
@@ -20,7 +19,8 @@ ViewController::ViewController(const platform::Host& host)
       input(preferences, host.output, host.panels),
       jit(preferences, host.output, host.panels),
       host_(host),
-      store_(host) {
+      store_(host),
+      settings_(settingsByKey({&sharedFolder, &display, &network, &machine, &input, &jit})) {
   connectActions();
 }
 
@@ -41,7 +41,7 @@ void ViewController::viewDidLoad(document::Preferences::IfMissing ifMissing) {
   host_.output.print("QuilLocal?: ", sharedVar::localPath->path());
   preferences.load(ifMissing);
   filename_field.setStringValue(preferences.prefsPath);
-  for (Setting* const setting : settingsInKeyOrder()) {
+  for (Setting* const setting : settings_) {
     setting->load();
   }
   volumes.load(preferences.settings.allContaining("disk "));
@@ -56,17 +56,6 @@ std::string ViewController::loadFrontEndSettings() {
   startQuil.setEnabled(sharedVar::startState);
   tabs.prepareScsiTab();
   return storedLocation;
-}
-
-std::array<Setting*, document::keyCount> ViewController::settingsInKeyOrder() const {
-  std::array<Setting*, document::keyCount> ordered{};
-  for (const ControlGroup* const group : std::initializer_list<const ControlGroup*>{
-           &sharedFolder, &display, &network, &machine, &input, &jit}) {
-    for (Setting* const setting : group->settings()) {
-      ordered.at(document::indexOf(setting->key())) = setting;
-    }
-  }
-  return ordered;
 }
 
 void ViewController::viewWillAppear(platform::Window& window) {
@@ -89,7 +78,7 @@ bool ViewController::save(std::string_view finalMessage) {
 
 std::array<std::string, document::keyCount> ViewController::valuesToSave() const {
   std::array<std::string, document::keyCount> values;
-  for (const Setting* const setting : settingsInKeyOrder()) {
+  for (const Setting* const setting : settings_) {
     values.at(document::indexOf(setting->key())) = setting->valueToSave();
   }
   return values;
@@ -107,7 +96,7 @@ void ViewController::rememberSaved() {
 
 std::vector<Key> ViewController::changedKeys() const {
   std::vector<Key> changed;
-  for (const Setting* const setting : settingsInKeyOrder()) {
+  for (const Setting* const setting : settings_) {
     if (setting->valueToSave() != savedValues_.at(document::indexOf(setting->key()))) {
       changed.push_back(setting->key());
     }

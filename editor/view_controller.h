@@ -55,7 +55,9 @@ class ViewController {
   [[nodiscard]] std::string textToSave() const;
 
   /// The settings by index.
-  [[nodiscard]] std::array<Setting*, document::keyCount> settingsInKeyOrder() const;
+  [[nodiscard]] const std::array<Setting*, document::keyCount>& settingsInKeyOrder() const {
+    return settings_;
+  }
 
   document::Preferences preferences;
   volumes::VolumeTable volumes;
@@ -89,6 +91,7 @@ class ViewController {
   platform::Host host_;
   app::SettingsStore store_;
   platform::Subscription preferencesDone_;
+  std::array<Setting*, document::keyCount> settings_;  // by index
   std::array<std::string, document::keyCount> savedValues_;
   std::vector<platform::Location> savedVolumes_;
   std::size_t savedRevision_ = 0;  // of the table

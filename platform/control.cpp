@@ -32,6 +32,15 @@ void ComboBox::selectItem(std::size_t index) {
   changed();
 }
 
+bool ComboBox::selectItemWithText(std::string_view text) {
+  const auto found = std::find(items_.begin(), items_.end(), text);
+  if (found == items_.end()) {
+    return false;
+  }
+  selectItem(static_cast<std::size_t>(found - items_.begin()));
+  return true;
+}
+
 void ComboBox::enterText(std::string text) {
   selected_.reset();
   setStringValue(std::move(text));

@@ -152,6 +152,9 @@ class ComboBox : public TextField, public Choice {
   /// Selects an entry and takes its text.
   void selectItem(std::size_t index);
 
+  /// Selects the first entry with that text; returns whether there is one.
+  bool selectItemWithText(std::string_view text);
+
   /// Takes a text that was typed: no entry is selected.
   void enterText(std::string text);
 

@@ -426,6 +426,157 @@
     </message>
 </context>
 <context>
+    <name>Settings</name>
+    <message>
+        <source>Screen &amp;mode</source>
+        <translation>Bildschirm&amp;modus</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>B&amp;reite</translation>
+    </message>
+    <message>
+        <source>Hei&amp;ght</source>
+        <translation>Höh&amp;e</translation>
+    </message>
+    <message>
+        <source>Shared fol&amp;der</source>
+        <translation>&amp;Gemeinsamer Ordner</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>&amp;Modem port</source>
+        <translation>&amp;Modemanschluss</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter port</source>
+        <translation>D&amp;ruckeranschluss</translation>
+    </message>
+    <message>
+        <source>Network &amp;device</source>
+        <translation>Netzwerk&amp;gerät</translation>
+    </message>
+    <message>
+        <source>Tunnel the net&amp;work over UDP</source>
+        <translation>Net&amp;zwerk über UDP tunneln</translation>
+    </message>
+    <message>
+        <source>&amp;UDP port</source>
+        <translation>&amp;UDP-Port</translation>
+    </message>
+    <message>
+        <source>&amp;ROM file</source>
+        <translation>&amp;ROM-Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Boot drive</source>
+        <translation>St&amp;artlaufwerk</translation>
+    </message>
+    <message>
+        <source>Boot driver</source>
+        <translation>Starttreiber</translation>
+    </message>
+    <message>
+        <source>RA&amp;M size (MB)</source>
+        <translation>Arbeitsspeicher (&amp;MB)</translation>
+    </message>
+    <message>
+        <source>Refresh r&amp;ate</source>
+        <translation>Bild&amp;wiederholrate</translation>
+    </message>
+    <message>
+        <source>M&amp;odel</source>
+        <translation>M&amp;odell</translation>
+    </message>
+    <message>
+        <source>Processor (CP&amp;U)</source>
+        <translation>&amp;Prozessor (CPU)</translation>
+    </message>
+    <message>
+        <source>Floating-point unit (FPU)</source>
+        <translation>Gleitkommaeinheit (FPU)</translation>
+    </message>
+    <message>
+        <source>&amp;Disable the CD-ROM drive</source>
+        <translation>&amp;CD-ROM-Laufwerk deaktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Disable sound</source>
+        <translation>Ton &amp;ausschalten</translation>
+    </message>
+    <message>
+        <source>Leave the clipboard unconverted</source>
+        <translation>Zwischenablage nicht umwandeln</translation>
+    </message>
+    <message>
+        <source>No windows of its own</source>
+        <translation>Keine eigenen Fenster</translation>
+    </message>
+    <message>
+        <source>Enable the &amp;JIT compiler</source>
+        <translation>&amp;JIT-Compiler aktivieren</translation>
+    </message>
+    <message>
+        <source>Compile floating-point instr&amp;uctions</source>
+        <translation>&amp;Gleitkommabefehle kompilieren</translation>
+    </message>
+    <message>
+        <source>Debug the JIT compiler</source>
+        <translation>Fehlersuche im JIT-Compiler</translation>
+    </message>
+    <message>
+        <source>Cache si&amp;ze (KB)</source>
+        <translation>&amp;Cache-Größe (KB)</translation>
+    </message>
+    <message>
+        <source>Flush the cache lazil&amp;y</source>
+        <translation>Cache ver&amp;zögert leeren</translation>
+    </message>
+    <message>
+        <source>Inline &amp;blocks</source>
+        <translation>Blöck&amp;e einbetten (Inlining)</translation>
+    </message>
+    <message>
+        <source>Keyboard type</source>
+        <translation>Tastaturtyp</translation>
+    </message>
+    <message>
+        <source>Use raw &amp;key codes</source>
+        <translation>&amp;Rohe Tastencodes verwenden</translation>
+    </message>
+    <message>
+        <source>Ke&amp;y code file</source>
+        <translation>Tasten&amp;code-Datei</translation>
+    </message>
+    <message>
+        <source>Mouse &amp;wheel</source>
+        <translation>&amp;Mausrad</translation>
+    </message>
+    <message>
+        <source>L&amp;ines to scroll</source>
+        <translation>&amp;Zeilen pro Schritt</translation>
+    </message>
+    <message>
+        <source>&amp;Output device</source>
+        <translation>Aus&amp;gabegerät</translation>
+    </message>
+    <message>
+        <source>&amp;Mixer device</source>
+        <translation>Mi&amp;xer-Gerät</translation>
+    </message>
+    <message>
+        <source>Ignore &amp;memory faults</source>
+        <translation>Speicherfehler igno&amp;rieren</translation>
+    </message>
+    <message>
+        <source>Rest while the Macintosh is &amp;idle</source>
+        <translation>&amp;Pausieren, wenn der Macintosh untätig ist</translation>
+    </message>
+</context>
+<context>
     <name>desktop</name>
     <message>
         <source>Read the local l&amp;ist</source>
@@ -480,10 +631,6 @@
         <translation>Legt ein leeres Festplattenabbild an. Es wird nicht in die Liste aufgenommen.</translation>
     </message>
     <message>
-        <source>Shared fol&amp;der:</source>
-        <translation>&amp;Gemeinsamer Ordner:</translation>
-    </message>
-    <message>
         <source>Ch&amp;oose…</source>
         <translation>&amp;Auswählen …</translation>
     </message>
@@ -500,10 +647,6 @@
         <translation>Eine Markierung für Sie selbst, solange das Fenster geöffnet ist. Sie wird nicht gespeichert.</translation>
     </message>
     <message>
-        <source>&amp;ROM file:</source>
-        <translation>&amp;ROM-Datei:</translation>
-    </message>
-    <message>
         <source>Bro&amp;wse…</source>
         <translation>D&amp;urchsuchen …</translation>
     </message>
@@ -512,68 +655,12 @@
         <translation>Wählt die ROM-Datei aus.</translation>
     </message>
     <message>
-        <source>&amp;Boot drive:</source>
-        <translation>St&amp;artlaufwerk:</translation>
-    </message>
-    <message>
-        <source>RA&amp;M size (MB):</source>
-        <translation>Arbeitsspeicher (&amp;MB):</translation>
-    </message>
-    <message>
-        <source>M&amp;odel:</source>
-        <translation>M&amp;odell:</translation>
-    </message>
-    <message>
-        <source>Processor (CP&amp;U):</source>
-        <translation>&amp;Prozessor (CPU):</translation>
-    </message>
-    <message>
-        <source>&amp;Disable the CD-ROM drive</source>
-        <translation>&amp;CD-ROM-Laufwerk deaktivieren</translation>
-    </message>
-    <message>
-        <source>Screen &amp;mode:</source>
-        <translation>Bildschirm&amp;modus:</translation>
-    </message>
-    <message>
-        <source>&amp;Width:</source>
-        <translation>B&amp;reite:</translation>
-    </message>
-    <message>
-        <source>Hei&amp;ght:</source>
-        <translation>Höh&amp;e:</translation>
-    </message>
-    <message>
-        <source>Refresh r&amp;ate:</source>
-        <translation>Bild&amp;wiederholrate:</translation>
-    </message>
-    <message>
         <source>Sound</source>
         <translation>Ton</translation>
     </message>
     <message>
-        <source>&amp;Disable sound</source>
-        <translation>Ton &amp;ausschalten</translation>
-    </message>
-    <message>
-        <source>&amp;Output device:</source>
-        <translation>Aus&amp;gabegerät:</translation>
-    </message>
-    <message>
-        <source>&amp;Mixer device:</source>
-        <translation>Mi&amp;xer-Gerät:</translation>
-    </message>
-    <message>
         <source>Keyboard</source>
         <translation>Tastatur</translation>
-    </message>
-    <message>
-        <source>Use raw &amp;key codes</source>
-        <translation>&amp;Rohe Tastencodes verwenden</translation>
-    </message>
-    <message>
-        <source>Ke&amp;y code file:</source>
-        <translation>Tasten&amp;code-Datei:</translation>
     </message>
     <message>
         <source>&amp;Browse…</source>
@@ -588,68 +675,12 @@
         <translation>Maus</translation>
     </message>
     <message>
-        <source>Mouse &amp;wheel:</source>
-        <translation>&amp;Mausrad:</translation>
-    </message>
-    <message>
-        <source>L&amp;ines to scroll:</source>
-        <translation>&amp;Zeilen pro Schritt:</translation>
-    </message>
-    <message>
-        <source>&amp;Modem port:</source>
-        <translation>&amp;Modemanschluss:</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter port:</source>
-        <translation>D&amp;ruckeranschluss:</translation>
-    </message>
-    <message>
-        <source>Network &amp;device:</source>
-        <translation>Netzwerk&amp;gerät:</translation>
-    </message>
-    <message>
-        <source>Tunnel the net&amp;work over UDP</source>
-        <translation>Net&amp;zwerk über UDP tunneln</translation>
-    </message>
-    <message>
-        <source>&amp;UDP port:</source>
-        <translation>&amp;UDP-Port:</translation>
-    </message>
-    <message>
         <source>Just-in-time compiler</source>
         <translation>Just-in-time-Compiler</translation>
     </message>
     <message>
-        <source>Enable the &amp;JIT compiler</source>
-        <translation>&amp;JIT-Compiler aktivieren</translation>
-    </message>
-    <message>
-        <source>Compile floating-point instr&amp;uctions</source>
-        <translation>&amp;Gleitkommabefehle kompilieren</translation>
-    </message>
-    <message>
-        <source>Cache si&amp;ze (KB):</source>
-        <translation>&amp;Cache-Größe (KB):</translation>
-    </message>
-    <message>
-        <source>Flush the cache lazil&amp;y</source>
-        <translation>Cache ver&amp;zögert leeren</translation>
-    </message>
-    <message>
-        <source>Inline &amp;blocks</source>
-        <translation>Blöck&amp;e einbetten (Inlining)</translation>
-    </message>
-    <message>
         <source>Processor emulation</source>
         <translation>Prozessoremulation</translation>
-    </message>
-    <message>
-        <source>Ignore &amp;memory faults</source>
-        <translation>Speicherfehler igno&amp;rieren</translation>
-    </message>
-    <message>
-        <source>Rest while the Macintosh is &amp;idle</source>
-        <translation>&amp;Pausieren, wenn der Macintosh untätig ist</translation>
     </message>
     <message>
         <source>Reset to Default (empty)</source>
