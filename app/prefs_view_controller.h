@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <memory>
 
@@ -12,7 +11,7 @@ namespace app {
 /// The front-end's preferences: where the emulator is, whether there is a SCSI tab, and whether the
 /// front-end ends after Start. Each change is in `sharedVar` at once; Done has the settings window
 /// apply and store them.
-class prefsViewController {  // NOLINT(readability-identifier-naming)
+class prefsViewController {
  public:
   explicit prefsViewController(const platform::Host& host);
 

@@ -3,8 +3,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <optional>
-#include <string_view>
 #include <type_traits>
 
 #include "app/shared_var.h"

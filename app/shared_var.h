@@ -14,7 +14,7 @@ namespace app {
 enum StartFlag : std::int64_t { startNone = 0, startCustom = 1, startLocal = 2 };
 
 /// What the windows tell each other through. One set for the whole process, with no instances.
-struct sharedVar {  // NOLINT(readability-identifier-naming): the record is itself the variable
+struct sharedVar {
   sharedVar() = delete;
 
   static inline std::string pathToQuil;      // the emulator that Start launches

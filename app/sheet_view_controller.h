@@ -8,7 +8,7 @@
 namespace app {
 
 /// The agreement sheet. Nothing of the answer is recorded.
-class sheetViewController {  // NOLINT(readability-identifier-naming)
+class sheetViewController {
  public:
   explicit sheetViewController(const platform::Host& host) : host_(host) {
     Agree.action = [this] {

@@ -1,6 +1,5 @@
 #include "desktop/controls.h"
 
-#include <QAbstractSpinBox>
 #include <QCompleter>
 #include <QEvent>
 #include <QPointer>

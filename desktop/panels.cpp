@@ -105,9 +105,6 @@ std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPan
                                                       : QFileDialog::ExistingFile);
   }
   dialog->setOption(QFileDialog::ReadOnly, !panel.canCreateDirectories);
-  if (panel.showsHiddenFiles) {
-    dialog->setFilter(dialog->filter() | QDir::Hidden);
-  }
   setTypes(*dialog, panel.allowedFileTypes);
   if (!panel.directory.empty()) {
     dialog->setDirectory(toQString(panel.directory));

@@ -1,6 +1,5 @@
 #include "desktop/setting_widgets.h"
 
-#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenu>

@@ -12,7 +12,6 @@
 #include "desktop/find_field.h"
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
-#include "desktop/pages.h"
 #include "desktop/setting_widgets.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace document {
@@ -12,7 +13,7 @@ namespace document {
 class Lines {
  public:
   Lines() = default;
-  explicit Lines(std::string text);
+  explicit Lines(std::string text) : text_(std::move(text)) {}
 
   /// The first line that contains `part` anywhere. `part` is not empty and holds no line feed.
   [[nodiscard]] std::optional<std::string_view> firstContaining(std::string_view part) const;
@@ -23,13 +24,8 @@ class Lines {
  private:
   [[nodiscard]] std::optional<std::string_view> nextContaining(std::string_view part,
                                                                std::size_t from) const;
-  [[nodiscard]] std::size_t earliest(std::string_view part) const;
-  void noteWordEnds();
 
   std::string text_;
-  // Where, by a hash of its last bytes, a word with a blank behind it ends first. Only large texts
-  // have it.
-  std::vector<std::size_t> wordEnds_;
 };
 
 /// A line without its last byte where that is the carriage return of a CR LF line end.

@@ -1,7 +1,6 @@
 #include "editor/display.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 
 #include "platform/text.h"

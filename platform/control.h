@@ -195,14 +195,13 @@ class ProgressIndicator : public Control {
  public:
   using Control::Control;
 
-  void setUsesThreadedAnimation(bool threaded) { threaded_ = threaded; }
-  [[nodiscard]] bool usesThreadedAnimation() const { return threaded_; }
+  /// Without effect: Qt's progress bar animates from the event loop, and has no thread to choose.
+  void setUsesThreadedAnimation(bool /*threaded*/) {}
   void startAnimation() { set(animating_, true); }
   void stopAnimation() { set(animating_, false); }
   [[nodiscard]] bool isAnimating() const { return animating_; }
 
  private:
-  bool threaded_ = false;
   bool animating_ = false;
 };
 

@@ -8,14 +8,13 @@
 
 namespace platform {
 
-/// How a panel for choosing existing files or folders is set up.
+/// How a panel for choosing existing files or folders is set up. None shows hidden files at first.
 struct OpenPanel {
   std::string title;
   bool canChooseFiles = true;
   bool canChooseDirectories = false;
   bool canCreateDirectories = false;
   bool allowsMultipleSelection = false;
-  bool showsHiddenFiles = false;
   std::vector<std::string> allowedFileTypes;  // file name endings; empty: any
   std::string directory;                      // where it opens; empty: its own choice
 };

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <charconv>
 #include <concepts>
-#include <limits>
 
 namespace platform {
 namespace {

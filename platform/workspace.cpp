@@ -47,8 +47,8 @@ void reportFailure(const Start& start) {
 
 [[noreturn]] void runApplication(const Start& start) {
   // What must not end us ends most programs: an ignored signal would be inherited.
-  ::signal(SIGPIPE, SIG_DFL);  // NOLINT(cert-err33-c): there is nobody to tell
-  ::signal(SIGXFSZ, SIG_DFL);  // NOLINT(cert-err33-c)
+  ::signal(SIGPIPE, SIG_DFL);
+  ::signal(SIGXFSZ, SIG_DFL);
   const int input = ::open("/dev/null", O_RDONLY);
   if (input > 0) {
     ::dup2(input, STDIN_FILENO);

@@ -12,7 +12,7 @@
 namespace volumes {
 
 /// The sheet that makes blank disk images in the folder of the front-end.
-class createViewController {  // NOLINT(readability-identifier-naming)
+class createViewController {
  public:
   explicit createViewController(platform::Output& output);
 

@@ -95,7 +95,7 @@ TEST_F(VolumeTableTest, AddsWhatIsChosen) {
   const platform::OpenPanel& panel = host.panels.open;
   EXPECT_EQ(host.panels.shown, "sheet Select a volume");
   EXPECT_TRUE(panel.allowsMultipleSelection && panel.canChooseFiles && panel.canCreateDirectories);
-  EXPECT_FALSE(panel.canChooseDirectories || panel.showsHiddenFiles);
+  EXPECT_FALSE(panel.canChooseDirectories);
   EXPECT_EQ(platform::listText(panel.allowedFileTypes),
             R"(["img", "dmg", "dsk", "image", "cdr", "iso", "toast", "sparsebundle", "sparse", )"
             R"("dc42", "hfv", "hvf", "hfs", "ndif", "dk*", "cue"])");
