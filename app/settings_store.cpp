@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <type_traits>
 
 #include "app/shared_var.h"
 #include "platform/files.h"

@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <algorithm>
 #include <memory>
+#include <string>
 
 #include "desktop/texts.h"
 #include "editor/display.h"
@@ -65,6 +67,17 @@ QString helpOf(const editor::Setting& setting) {
           ? tr("Writes \"%1\".").arg(word)
           : tr("Writes \"%1\", %2.").arg(word, QCoreApplication::translate("Help", row.written));
   return help;
+}
+
+void requireEverySetting(const SettingWidgets& shown) {
+  for (const document::KeyRow& row : document::keyTable) {
+    const bool isShown = std::any_of(shown.begin(), shown.end(), [&](const SettingWidget& place) {
+      return document::rowOf(place.setting->key()).control == row.control;
+    });
+    if (!isShown && !row.control.empty()) {
+      qFatal("No page shows the setting %s", std::string(row.text).c_str());
+    }
+  }
 }
 
 void offerReset(const SettingWidget& place) {

@@ -18,6 +18,9 @@ struct SettingWidget {
 
 using SettingWidgets = std::vector<SettingWidget>;
 
+/// Ends the program, with a word to the developer, when a setting that has a control is on no page.
+void requireEverySetting(const SettingWidgets& shown);
+
 /// What to know of a setting: what it does, what to leave it at, and what is written.
 QString helpOf(const editor::Setting& setting);
 

@@ -108,6 +108,7 @@ void SettingsWindow::completePages() {
       fillPage(static_cast<editor::TabId>(index));
     }
   }
+  requireEverySetting(settingWidgets_);
 }
 
 // A person sees one page first. The others are made once it is on the screen.

@@ -1,6 +1,7 @@
 #include "volumes/volume_table.h"
 
 #include <algorithm>
+#include <array>
 
 #include "platform/byte_count.h"
 #include "platform/text.h"
@@ -21,15 +22,18 @@ std::string withoutScheme(std::string text) {
 
 }  // namespace
 
-// Position, title and cells of each column.
-const std::array<VolumeTable::Column, 3> VolumeTable::columns = {
-    {{{"NameCell", platform::translatable("Columns", "Disk image")}, &VolumeTable::nameCell},
-     {{"SizeCell", platform::translatable("Columns", "Size"), true}, &VolumeTable::sizeCell},
-     {{"KindCell", platform::translatable("Columns", "Kind")}, &VolumeTable::kindCell}}};
+std::span<const VolumeTable::Column> VolumeTable::columns() {
+  using platform::translatable;
+  static constexpr auto table = std::to_array<Column>(
+      {{{"NameCell", translatable("Columns", "Disk image")}, &VolumeTable::nameCell},
+       {{"SizeCell", translatable("Columns", "Size"), true}, &VolumeTable::sizeCell},
+       {{"KindCell", translatable("Columns", "Kind")}, &VolumeTable::kindCell}});
+  return table;
+}
 
 VolumeTable::VolumeTable(platform::Output& output, platform::Panels& panels)
     : output_(output), panels_(panels), volumes_(output) {
-  for (const Column& column : columns) {
+  for (const Column& column : columns()) {
     tableView.addTableColumn(column.shown);
   }
   ronMode.setOn(true);
@@ -56,8 +60,8 @@ std::optional<platform::TableCell> VolumeTable::viewFor(std::optional<std::size_
       showsLocalList_ ? volumes_.volLocal()[row] : volumes_.volName()[row];
   output_.print(showsLocalList_ ? "loCalmode volLocal" : "loCalmode volRegular");
   output_.print(location.text());
-  if (column && *column < columns.size()) {
-    const Column& shown = columns[*column];
+  if (column && *column < columns().size()) {
+    const Column& shown = columns()[*column];
     platform::TableCell cell = (this->*shown.cell)(location, row);
     cell.identifier = shown.shown.identifier;
     return cell;

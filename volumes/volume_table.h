@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,7 +51,8 @@ class VolumeTable : public platform::TableDataSource {
     platform::TableColumn shown;
     platform::TableCell (VolumeTable::*cell)(const platform::Location& location, std::size_t row);
   };
-  static const std::array<Column, 3> columns;
+  /// In the order in which they are shown.
+  [[nodiscard]] static std::span<const Column> columns();
 
   platform::TableCell nameCell(const platform::Location& location, std::size_t row);
   platform::TableCell sizeCell(const platform::Location& location, std::size_t row);
