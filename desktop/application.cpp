@@ -8,7 +8,7 @@
 
 namespace desktop {
 
-// Not quit(), which would first close the windows and so come here once more.
+// QCoreApplication::quit would first close the windows, and closing the settings window calls this.
 void Application::terminate() { QCoreApplication::exit(0); }
 
 void Application::exitNow() { ::_exit(0); }
@@ -21,7 +21,8 @@ void Application::makeFirstResponder(platform::TextField& field) {
   }
   const QPointer<QWidget> before = QApplication::focusWidget();
   widget->setFocus(Qt::OtherFocusReason);
-  // A save disables the field again at once. Whoever saves while typing goes on typing there.
+  // A save disables the field at once, which would leave the focus nowhere: it goes back to where
+  // the person was typing.
   QMetaObject::invokeMethod(
       widget,
       [widget, before] {

@@ -40,7 +40,8 @@ void ChangeMarks::update() {
   if (marked_.readError != nullptr && controller_.preferences.readError().empty()) {
     marked_.readError->hide();
   }
-  // Not without need: the window system answers each new title, which would bring us here again.
+  // Only on a change: the window system answers each new title, which wakes the event loop and
+  // would lead here again without end.
   const bool modified = !changed.empty() || volumesChanged;
   if (marked_.window->isWindowModified() != modified) {
     marked_.window->setWindowModified(modified);

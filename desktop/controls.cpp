@@ -24,13 +24,13 @@ class WheelGuard : public QObject {
     if (event->type() != QEvent::Wheel) {
       return QObject::eventFilter(watched, event);
     }
-    // Ignored and not eaten, so that it goes on to what scrolls.
+    // An ignored event goes on to the parent widget, which scrolls; an accepted one would end here.
     event->ignore();
     return true;
   }
 };
 
-// Items are taken over only when they changed: an open list stays open otherwise.
+// Replaced only when they differ, because that would close an open list.
 void showItems(QComboBox* box, const std::vector<std::string>& items,
                QString (*text)(const std::string&)) {
   QStringList wanted;
@@ -59,7 +59,7 @@ void guardWheel(QWidget* widget) {
   widget->installEventFilter(new WheelGuard(widget));
 }
 
-// The widget may go before the window does.
+// The subscription lives as long as the window, and the widget may be deleted before it.
 template <typename Show>
 void Controls::attach(platform::Control& control, const QObject* widget, Show show) {
   views_.push_back(control.attach([alive = QPointer<const QObject>(widget), show] {
@@ -167,7 +167,7 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
   box->setInsertPolicy(QComboBox::NoInsert);
   box->setMinimumContentsLength(12);
   if (control.completes()) {
-    // Entries are offered below the field and never put into it unasked.
+    // The default, InlineCompletion, would put an entry into the field that nobody typed.
     box->completer()->setCompletionMode(QCompleter::PopupCompletion);
   } else {
     box->setCompleter(nullptr);
@@ -178,8 +178,8 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
     showItems(box, control.items(), toQString);
     const QString text = toQString(control.stringValue());
     const auto selected = control.indexOfSelectedItem();
-    // The box looks for an entry with the text of the field when the focus leaves: it is to find
-    // that the right one is selected already.
+    // When the focus leaves, QComboBox selects the entry with the text of the field and emits
+    // activated, unless that entry is the current one.
     box->setCurrentIndex(selected ? static_cast<int>(*selected) : box->findText(text));
     box->setEditText(text);
   };
@@ -196,7 +196,7 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
     pending->settle();
   });
   QObject::connect(box, &QComboBox::activated, &connections_, [box, pending, &control](int index) {
-    // Qt takes a typed text that stands in the list for a choice.
+    // QComboBox (6.4) emits activated also for a typed text that equals an entry.
     if (pending->isTyped(box->itemText(index))) {
       return;
     }
@@ -249,7 +249,7 @@ QProgressBar* Controls::progressBar(platform::ProgressIndicator& control) {
   bar->setAccessibleName(desktop::tr("Activity"));
   bar->setTextVisible(false);
   attach(control, bar, [bar, &control] {
-    // A bar without a range moves for as long as it is shown.
+    // With minimum and maximum 0, QProgressBar shows a moving bar.
     bar->setRange(0, control.isAnimating() ? 0 : 1);
     bar->setValue(0);
   });

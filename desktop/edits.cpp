@@ -9,7 +9,8 @@
 namespace desktop {
 namespace {
 
-// A setting is one line of the file: a second one that came with a paste would be another setting.
+// The preferences file has one line for each setting. The next line of a pasted text would be read
+// as another setting.
 QString oneLine(QString text) {
   while (text.endsWith(QLatin1Char('\n')) || text.endsWith(QLatin1Char('\r'))) {
     text.chop(1);
@@ -80,7 +81,7 @@ void PendingEdit::returnPressed() {
 bool PendingEdit::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusOut) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    // Looking at another window or at a menu does not end an edit.
+    // With these reasons the focus comes back: a menu or another window is open in front.
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
       endEditing();
     }

@@ -13,7 +13,8 @@ namespace desktop {
 
 class PendingEdit;
 
-/// All text fields of the program in which something may have been typed that nobody knows of yet.
+/// All text fields of the program, each of which may hold typed text that its control does not have
+/// yet.
 class Edits {
  public:
   void add(PendingEdit* edit) { edits_.emplace_back(edit); }
@@ -48,7 +49,7 @@ class PendingEdit : public QObject {
     return field_->focusProxy() != nullptr ? field_->focusProxy() : field_.data();
   }
 
-  /// What the field holds now is what the state says.
+  /// Takes the text of the field as committed.
   void settle();
 
   void endEditing();

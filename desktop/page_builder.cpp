@@ -29,7 +29,8 @@ void PageBuilder::heading(const QString& text) {
 void PageBuilder::row(editor::Setting& setting, const char* label, QWidget* widget) {
   const QString text = translatedLabel(label);
   form_->addRow(text + QLatin1Char(':'), widget);
-  // A screen reader comes upon the field inside a box or an arrow pair as well.
+  // The line edit inside a combo box or a stepper is an object of its own in the accessibility
+  // tree.
   for (QWidget* const named : {widget, static_cast<QWidget*>(widget->findChild<QLineEdit*>())}) {
     if (named != nullptr) {
       named->setAccessibleName(plainText(text));

@@ -15,7 +15,7 @@ using editor::TabId;
 
 namespace {
 
-// What only helps to find faults in this program, at the foot.
+// The foot of the page: what only helps to find faults in this program.
 QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
   auto* const row = new QHBoxLayout;
   auto* const label = controls.statusLine(volumes.loCalDebug);

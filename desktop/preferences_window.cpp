@@ -27,7 +27,8 @@ PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, Q
   auto* const buttons = new QHBoxLayout;
   QPushButton* const test = controls_.pushButton(controller_.testLaunch, tr("&Test"),
                                                  tr("Starts what the location names, unchecked."));
-  // What is being typed is tried as it is and not committed before.
+  // Without focus on a click the button does not end the edit of the location, which would empty a
+  // field without "Quillon" in it: Test launches what is typed, whatever it is.
   test->setFocusPolicy(Qt::TabFocus);
   test->setAutoDefault(false);
   QPushButton* const done =

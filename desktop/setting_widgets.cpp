@@ -81,7 +81,7 @@ void requireEverySetting(const SettingWidgets& shown) {
 }
 
 void offerReset(const SettingWidget& place) {
-  // A field inside a box or an arrow pair has a menu of its own.
+  // The line edit inside a combo box or a stepper gets the event, and would show its own menu.
   for (QWidget* const widget : {place.widget, place.widget->findChild<QWidget*>()}) {
     if (widget == nullptr ||
         (widget != place.widget && qobject_cast<QLineEdit*>(widget) == nullptr)) {
@@ -102,7 +102,7 @@ QString translatedLabel(const char* label) {
 QString plainText(const QString& label) {
   QString plain;
   for (qsizetype at = 0; at < label.size(); ++at) {
-    // Behind the mark stands the letter that it marks, or another mark that is meant.
+    // "&&" stands for one "&".
     at += label[at] == QLatin1Char('&') ? 1 : 0;
     if (at < label.size()) {
       plain += label[at];

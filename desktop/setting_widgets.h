@@ -12,7 +12,7 @@ namespace desktop {
 struct SettingWidget {
   editor::Setting* setting;
   QString title;    // the label as plain text
-  QWidget* label;   // says what it is; the widget itself where that does
+  QWidget* label;   // shows the title; for a check box it is the same as `widget`
   QWidget* widget;  // shows the value
 };
 
@@ -21,7 +21,7 @@ using SettingWidgets = std::vector<SettingWidget>;
 /// Ends the program, with a word to the developer, when a setting that has a control is on no page.
 void requireEverySetting(const SettingWidgets& shown);
 
-/// What to know of a setting: what it does, what to leave it at, and what is written.
+/// The help of a setting: what it does, what to leave it at, and what is written to the file.
 QString helpOf(const editor::Setting& setting);
 
 /// Offers to reset a setting in its widget's context menu.

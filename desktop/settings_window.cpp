@@ -37,7 +37,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   tabs_->setAccessibleName(tr("Settings"));
   guardWheel(tabs_->tabBar());
 
-  setMenuWidget(topRow());  // first, because the focus goes in the order of making
+  setMenuWidget(topRow());  // made first: the Tab key goes through the widgets as they were made
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   if (!controller.preferences.readError().empty()) {
@@ -61,7 +61,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   };
   tabsShown_ = controller.tabs.tabViewC.attach([this] { showTabs(); });
   connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
-  // A larger font gets a larger window, as far as the screen goes with some room for a title bar.
+  // The size goes by the font. A tenth of the screen is left for title bar and panels.
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
@@ -71,7 +71,8 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   tabs_->setFocus();
 }
 
-// All pages at once, so that they belong to the window in this order whether shown or not.
+// Every area is added here once, so that it is a child of the window even when its tab is not
+// shown.
 void SettingsWindow::addPages() {
   for (QScrollArea*& area : pages_) {
     area = new QScrollArea;
@@ -192,7 +193,8 @@ void SettingsWindow::showStart(QPushButton* button) {
   describe(button, controller_.startQuil, help);
 }
 
-// Beside the menus and not inside their bar, which goes away where the desktop shows the menus.
+// The search field stands beside the menu bar and is no corner widget of it: QMenuBar hides itself,
+// with its corner widgets, on desktops that show the menus elsewhere.
 QWidget* SettingsWindow::topRow() {
   auto* const row = new QWidget;
   auto* const layout = new QHBoxLayout(row);
@@ -208,7 +210,7 @@ QWidget* SettingsWindow::topRow() {
       [this](const SettingWidget& place) { return plainText(tabs_->tabText(tabOf(place))); },
       [this](const SettingWidget& place) { goTo(place); });
   layout->addWidget(find_);
-  // Unlike a margin it is on the other side where people read from right to left.
+  // A spacing changes sides with the reading direction; a contents margin does not.
   layout->addSpacing(style()->pixelMetric(QStyle::PM_LayoutRightMargin));
   help_->follow(row);
   return row;

@@ -18,14 +18,15 @@
 
 namespace desktop {
 
-/// The settings window: seven tabs, and below them, always in sight, the file and the buttons.
+/// The settings window: the tabs, and below them, always in sight, the file and the buttons.
 class SettingsWindow : public QMainWindow {
   Q_OBJECT
 
  public:
   SettingsWindow(editor::ViewController& controller, const platform::Host& host, Edits& edits);
 
-  /// Makes the pages that there was no time for before the window was shown.
+  /// Makes the pages that are still empty. Before the window is shown only the first one is made:
+  /// all of them would delay the first paint.
   void completePages();
 
  protected:

@@ -108,8 +108,7 @@ QStringList VolumeModel::mimeTypes() const {
   return types;
 }
 
-// One piece of data stands for all rows, a line for each, in their order in the table and not in
-// that of the selection.
+// A line for each dragged row, in the order of the table: `indexes` are in that of the selection.
 QMimeData* VolumeModel::mimeData(const QModelIndexList& indexes) const {
   std::set<int> rows;
   for (const QModelIndex& index : indexes) {
@@ -128,7 +127,7 @@ QMimeData* VolumeModel::mimeData(const QModelIndexList& indexes) const {
 
 bool VolumeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int /*row*/,
                                   int /*column*/, const QModelIndex& parent) const {
-  // Below the last row there is no item and no row number: that is above the end.
+  // A drop below the last row has no parent item either, and -1 as its row.
   const bool between = !parent.isValid();
   return action == Qt::MoveAction && data->hasFormat(mimeTypes().constFirst()) &&
          table_.dataSource->validateDrop(between ? DropOperation::above : DropOperation::on) ==

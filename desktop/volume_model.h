@@ -12,7 +12,7 @@
 
 namespace desktop {
 
-/// Behind the texts of a column whose texts end at the right.
+/// What stands behind the texts of a column that end at the right.
 inline constexpr QChar columnGap(0x2002);  // an en space
 
 /// The rows of a table of the core for Qt's table view. A cell is asked for when it first becomes

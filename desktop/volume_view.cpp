@@ -16,8 +16,9 @@ namespace desktop {
 
 namespace {
 
-// Paths and sizes are read from left to right in every language, and a column that ends at the
-// right keeps some distance from the next.
+// Marks paths and sizes as left-to-right: in a right-to-left language Qt would move their slashes
+// and units to the wrong end. Appends a gap to texts that end at the right, which would otherwise
+// touch those of the next column.
 class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -130,8 +131,7 @@ void VolumeView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// The row that takes the place of the last one selected is the next to be selected, so that the key
-// can be pressed again.
+// Selects the row that moved up, so that Delete can be pressed again.
 void VolumeView::removeRow() {
   const auto row = volumes_.tableView.selectedRow();
   const int rows = model_.rowCount();
@@ -141,7 +141,7 @@ void VolumeView::removeRow() {
   }
 }
 
-// Row numbers of another window's table mean nothing here.
+// A drag carries row numbers, which mean other rows in the table of another process.
 void VolumeView::dragEnterEvent(QDragEnterEvent* event) {
   if (event->source() == this) {
     QTableView::dragEnterEvent(event);
@@ -153,8 +153,9 @@ void VolumeView::dragMoveEvent(QDragMoveEvent* event) {
   QTableView::dragMoveEvent(event);
 }
 
-// The table of later versions of Qt would move the rows by itself, and none of them when the first
-// stands in its place already.
+// Versions of Qt later than 6.4 have QTableView::dropEvent, which moves the rows by itself, and
+// none of them when the first is in its place already. The base class leaves moving to
+// dropMimeData.
 void VolumeView::dropEvent(QDropEvent* event) {
   QAbstractItemView::dropEvent(event);  // NOLINT(bugprone-parent-virtual-call)
 }
@@ -182,7 +183,6 @@ void VolumeView::paintHint() {
                    tr("No disk images yet. Press Insert or the button \"Add…\" to add one."));
 }
 
-// Across the whole width, since whole rows move.
 void VolumeView::paintDropLine() {
   const DropIndicatorPosition place = dropIndicatorPosition();
   if (!hovered_.isValid() || place == OnViewport || place == OnItem) {

@@ -33,7 +33,7 @@ class VolumeView : public QTableView {
   volumes::VolumeTable& volumes_;
   VolumeModel model_;
   std::size_t revision_ = 0;
-  QModelIndex hovered_;  // below a drag
+  QModelIndex hovered_;  // the cell that a drag is over
   bool showing_ = false;
   platform::Subscription shown_;
 };

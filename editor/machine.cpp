@@ -111,7 +111,7 @@ RamSizeSetting::RamSizeSetting(ControlGroup& group)
   box.addItems({"1024", "512", "256", "128", "64", "32", "16", "8", "4", "2"});
 }
 
-// As a number in the unit that suits it: a gigabyte is shown as "1".
+// The number is in the unit that suits the size: a file with 1073741824 shows "1", for 1 GB.
 void RamSizeSetting::fill() {
   const auto bytes = platform::parseInt64(value());
   if (!bytes) {

@@ -120,7 +120,7 @@ class CpuSetting : public Setting {
   [[nodiscard]] std::string shownText(std::string_view value) const override;
 
  protected:
-  // The button waits for the second key to be looked up.
+  // At start-up the other key is not looked up yet.
   void fill() override {}
   void show() override { processor_.show(); }
 

@@ -64,7 +64,8 @@ struct Announcement {
   std::string_view label{};              // after the lookup
 };
 
-/// The place of one key in the window. This class itself carries a key through that has no control.
+/// One key in the window: its value and what shows it. This class itself is for a key without a
+/// control.
 class Setting {
  public:
   Setting(ControlGroup& group, Key key, Announcement announcement = {});

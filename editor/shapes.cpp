@@ -82,7 +82,7 @@ StepperSetting::StepperSetting(ControlGroup& group, Key key, std::string stepper
       field(outletOf(key)),
       stepper(std::move(stepperName), range),
       echo_(echo) {
-  // What is typed into the field would change nothing: only the arrows do.
+  // Only the arrows change the value: text typed into the field would be ignored.
   field.setEditable(false);
   stepper.action = [this] { stepped(); };
 }

@@ -104,7 +104,7 @@ std::vector<Key> ViewController::changedKeys() const {
   return changed;
 }
 
-// Comparing thousands of locations is left out while nothing has touched the table.
+// The revision spares comparing thousands of locations while nothing has changed in the table.
 bool ViewController::volumesChanged() const {
   return volumes.tableView.revision() != savedRevision_ &&
          volumes.volumes().volName() != savedVolumes_;

@@ -20,7 +20,7 @@
 
 namespace editor {
 
-/// How the two halves of a start went.
+/// Whether the two steps of a start succeeded.
 struct StartResult {
   bool saved;
   bool launched;

@@ -174,7 +174,7 @@ bool VolumeTable::acceptDrop(const std::vector<std::string>& items, std::size_t 
     const auto source = static_cast<std::size_t>(*number);
     const std::size_t from = source < row ? source - above++ : source;
     const std::size_t to = source < row ? row - 1 : row + below++;
-    // A row that is none, or stands twice or out of order among the items.
+    // Foreign data may name a row that does not exist, or one twice.
     if (std::max(from, to) >= volumes_.size()) {
       continue;
     }
