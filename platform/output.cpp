@@ -14,8 +14,10 @@
 namespace platform {
 namespace {
 
-constexpr int patienceMilliseconds = 2000;
-constexpr int pauseMilliseconds = 10;
+using std::chrono::milliseconds;
+
+constexpr milliseconds longestPatience(2000);
+constexpr milliseconds pauseLength(10);
 constexpr std::size_t gatheredSize = std::size_t{64} << 10U;  // bytes
 
 // A terminal may poll writable and still make a writer wait. Opened once more it can be written to
@@ -37,7 +39,7 @@ void BufferOutput::write(std::initializer_list<std::string_view> parts) {
 }
 
 DescriptorOutput::DescriptorOutput(int descriptor)
-    : descriptor_(descriptor), terminal_(openTerminal(descriptor)) {
+    : descriptor_(descriptor), terminal_(openTerminal(descriptor)), patience_(longestPatience) {
   struct stat status {};
   // The null device takes everything at once, whatever its size; a file never makes a writer wait.
   mayBlock_ = ::fstat(descriptor, &status) == 0 && !S_ISREG(status.st_mode) &&
@@ -86,23 +88,31 @@ void DescriptorOutput::sendWaiting() {
   waiting_.clear();
 }
 
+// Whether the target can be written to; without one, whether there is patience left afterwards.
+bool DescriptorOutput::wait(pollfd* target, Clock::duration atMost) {
+  const Clock::time_point start = Clock::now();
+  patience_ = std::min<Clock::duration>(patience_ + (start - waited_), longestPatience);
+  const Clock::duration longest = std::max(std::min(patience_, atMost), Clock::duration::zero());
+  const auto length = std::chrono::ceil<milliseconds>(longest).count();
+  const int ready =
+      retried([&] { return ::poll(target, target != nullptr ? 1 : 0, static_cast<int>(length)); });
+  waited_ = Clock::now();
+  patience_ -= waited_ - start;
+  return target != nullptr ? ready > 0 : patience_ > Clock::duration::zero();
+}
+
 void DescriptorOutput::send(std::string_view part) {
-  const int target = terminal_.isOpen() ? terminal_.get() : descriptor_;
-  for (int pauses = patienceMilliseconds / pauseMilliseconds; !broken_ && !part.empty();) {
-    std::size_t length = part.size();
-    if (mayBlock_) {
-      // A pipe that polls writable takes this many bytes without waiting.
-      length = std::min<std::size_t>(length, PIPE_BUF);
-      pollfd waiting{target, POLLOUT, 0};
-      if (retried([&] { return ::poll(&waiting, 1, patienceMilliseconds); }) <= 0) {
-        broken_ = true;
-        return;
-      }
+  pollfd target{terminal_.isOpen() ? terminal_.get() : descriptor_, POLLOUT, 0};
+  while (!broken_ && !part.empty()) {
+    if (mayBlock_ && !wait(&target, longestPatience)) {
+      broken_ = true;
+      return;
     }
-    const ssize_t written = retried([&] { return ::write(target, part.data(), length); });
-    if (written < 0 && errno == EAGAIN && pauses > 0) {
-      --pauses;
-      ::poll(nullptr, 0, pauseMilliseconds);
+    // A pipe that polls writable takes this many bytes without waiting.
+    const std::size_t length =
+        mayBlock_ ? std::min<std::size_t>(part.size(), PIPE_BUF) : part.size();
+    const ssize_t written = retried([&] { return ::write(target.fd, part.data(), length); });
+    if (written < 0 && errno == EAGAIN && wait(nullptr, pauseLength)) {
       continue;
     }
     if (written <= 0) {

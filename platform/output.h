@@ -1,10 +1,13 @@
 #pragma once
 
+#include <chrono>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
 #include "platform/descriptor.h"
+
+struct pollfd;
 
 namespace platform {
 
@@ -49,24 +52,31 @@ class BufferOutput : public Output {
   void write(std::initializer_list<std::string_view> parts) override;
 };
 
-/// Writes to an open file descriptor. A reader that has gone away, or one that takes nothing for a
-/// few seconds, ends the output for good, and so does a line that would make it more than 1 GiB:
-/// diagnostics must neither stop the window nor fill the disk.
+/// Writes to an open file descriptor. A reader that has gone away ends the output for good, and so
+/// does one that keeps an action waiting for more than two seconds in all, or a line that would
+/// make it more than 1 GiB: diagnostics must neither stop the window nor fill the disk.
 class DescriptorOutput : public Output {
  public:
   explicit DescriptorOutput(int descriptor);
 
  private:
+  using Clock = std::chrono::steady_clock;
+
   void write(std::initializer_list<std::string_view> parts) override;
   void gather(bool begins) override;
   void sendWaiting();
   void send(std::string_view part);
+  bool wait(pollfd* target, Clock::duration atMost);
 
   std::string waiting_;  // what has been written and not sent
   bool gathering_ = false;
   int descriptor_;
   Descriptor terminal_;  // the same, opened not to wait, where it is a terminal
   std::size_t room_ = std::size_t{1} << 30U;  // bytes still to be taken
+  // How long may still be waited. Waiting takes from it, and time that passes otherwise gives back
+  // as much: nobody has to say where an action ends, such as a start or a save.
+  Clock::duration patience_;
+  Clock::time_point waited_ = Clock::now();  // when the last waiting ended
   bool mayBlock_;
   bool broken_ = false;
 };
