@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::string_view magic = "bplist";
 constexpr std::size_t trailerSize = 32;
+constexpr std::size_t mostLevels = 100;  // more than are read, few enough for the stack
 
 // The high half of an object's first byte says what it is.
 enum Kind : std::uint8_t { date = 3, data, ascii, utf16, utf8, array = 10, set = 12, dict };
@@ -55,8 +56,13 @@ class BinaryList {
       return limit_ + 1;
     }
     if (sizes_[object] == unknown) {
+      if (levels_ == mostLevels) {
+        return limit_ + 1;
+      }
+      ++levels_;
       sizes_[object] = 1;  // for an object within itself, which the library refuses
       sizes_[object] = measure(number(table_ + object * offsetSize_, offsetSize_));
+      --levels_;
     }
     return sizes_[object];
   }
@@ -113,6 +119,7 @@ class BinaryList {
   std::size_t offsetSize_ = 0;
   std::size_t referenceSize_ = 0;
   std::size_t table_ = 0;
+  std::size_t levels_ = 0;          // above the object that is being measured
   std::vector<std::size_t> sizes_;  // of the objects measured so far
 };
 

@@ -1,7 +1,9 @@
 #include "platform/property_list.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <set>
+#include <vector>
 
 #include "platform/binary_list.h"
 #include "platform/files.h"
@@ -13,6 +15,7 @@ namespace {
 // Bounds the recursion of the parser, too.
 constexpr std::size_t sizeLimit = std::size_t{64} * 1024;
 constexpr std::size_t expandedLimit = std::size_t{1024} * 1024;
+constexpr std::size_t mostLevels = 64;  // of dictionaries and arrays within each other
 
 // A binary list can, and then reads otherwise once it has been written as XML.
 bool holdsAKeyTwice(plist_t dictionary) {
@@ -33,6 +36,41 @@ bool holdsAKeyTwice(plist_t dictionary) {
   }
 }
 
+std::vector<plist_t> itemsOf(plist_t container) {
+  const bool isArray = plist_get_node_type(container) == PLIST_ARRAY;
+  void* position = nullptr;
+  if (isArray) {
+    plist_array_new_iter(container, &position);
+  } else {
+    plist_dict_new_iter(container, &position);
+  }
+  const std::unique_ptr<void, decltype(&std::free)> owned(position, &std::free);
+  for (std::vector<plist_t> items;;) {
+    plist_t item = nullptr;
+    if (isArray) {
+      plist_array_next_item(container, position, &item);
+    } else {
+      plist_dict_next_item(container, position, nullptr, &item);
+    }
+    if (item == nullptr) {
+      return items;
+    }
+    items.push_back(item);
+  }
+}
+
+// Written as XML each level is indented by one more tab: 64 KiB of lists within lists would become
+// many megabytes.
+bool isNestedDeeper(plist_t node, std::size_t levels) {
+  const plist_type type = plist_get_node_type(node);
+  if (type != PLIST_ARRAY && type != PLIST_DICT) {
+    return false;
+  }
+  const auto goesOn = [&](plist_t item) { return isNestedDeeper(item, levels - 1); };
+  const auto items = levels > 0 ? itemsOf(node) : std::vector<plist_t>();
+  return levels == 0 || std::any_of(items.begin(), items.end(), goesOn);
+}
+
 }  // namespace
 
 PropertyList::PropertyList() : root_(plist_new_dict()) {}
@@ -46,7 +84,8 @@ std::optional<PropertyList> PropertyList::read(const std::string& path, std::err
   }
   const plist_t root = isHarmless(*bytes, expandedLimit) ? plistFromMemory(*bytes) : nullptr;
   PropertyList list(root);
-  if (plist_get_node_type(root) != PLIST_DICT || holdsAKeyTwice(root)) {
+  if (plist_get_node_type(root) != PLIST_DICT || holdsAKeyTwice(root) ||
+      isNestedDeeper(root, mostLevels) || !list.xml()) {
     error = std::make_error_code(std::errc::invalid_argument);
     return std::nullopt;
   }

@@ -15,8 +15,8 @@ class PropertyList {
   PropertyList();
 
   /// Reads XML, binary and whatever else the library knows. None, with the reason in `error`, when
-  /// the file cannot be read, holds more than 64 KiB, or is no dictionary that can be written
-  /// again.
+  /// the file cannot be read, holds more than 64 KiB or 64 levels, or is no dictionary that can be
+  /// written again.
   static std::optional<PropertyList> read(const std::string& path, std::error_code& error);
 
   /// The value of a key; none when the key is missing or its value has another type.

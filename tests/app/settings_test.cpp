@@ -75,8 +75,21 @@ TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
   started.start = true;
   Stored nowhere = own;
   nowhere.location = "";
+  const auto nested = [&](int levels) {
+    std::string lists;
+    for (int level = 2; level < levels; ++level) {  // in an array in the dictionary
+      lists = "<array>" + lists + "</array>";
+    }
+    return with("<real>1.5</real>", lists);
+  };
   // clang-format off
   const std::vector<Row> rows = {
+      {.what = "64 levels", .content = nested(64), .loaded = own, .told = 0},
+      {.what = "64 binary levels", .content = binary(nested(64)), .loaded = own, .told = 0},
+      {.what = "65 levels", .content = nested(65)},
+      {.what = "65 binary levels", .content = binary(nested(65))},
+      {.what = "3,000 levels", .content = nested(3000)},
+      {.what = "3,000 binary levels", .content = binary(nested(3000))},
       {.what = "all keys", .content = file, .loaded = own, .told = 0},
       {.what = "the binary form", .content = binary(file), .loaded = own, .told = 0},
       {.what = "a number for a truth value", .content = with("<false/>", "<integer>0</integer>"), .loaded = started, .told = 1},
@@ -89,15 +102,19 @@ TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
       {.what = "more than 64 KiB", .content = file + std::string(1 << 16, ' ')}};
   // clang-format on
   const auto expectLoaded = [&](const Stored& expected, int told) {
-    SettingsStore(host.host()).load();
+    SettingsStore store(host.host());
+    store.load();
     EXPECT_EQ(loaded(), expected);
     const std::string said = host.said();
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), told) << said;
+    return store;
   };
   for (const auto& [what, content, expected, told] : rows) {
     SCOPED_TRACE(what);
     host.home.write(FakeHost::settings, content);
-    expectLoaded(expected, told);
+    expectLoaded(expected, told).writeBack();
+    host.said();
+    expectLoaded(expected, 0);
   }
   fs::remove(host.home.path(FakeHost::settings));
   expectLoaded({}, 5);
