@@ -36,7 +36,7 @@ State stateOf(const editor::ViewController& controller) {
     state.settings[document::indexOf(setting->key())] = stateOf(*setting, controller.preferences);
   }
   // What somebody has changed since stands in no line of the file, and what it was does not matter.
-  for (const document::Key key : controller.changedKeys()) {
+  for (const document::Key key : controller.saved.changedKeys()) {
     SettingState& changed = state.settings[document::indexOf(key)];
     changed.foundLine.reset();
     changed.fileValueIsKnown = true;

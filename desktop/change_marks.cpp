@@ -5,18 +5,6 @@
 #include <algorithm>
 
 namespace desktop {
-namespace {
-
-void mark(QWidget* label, bool isChanged) {
-  if (label->font().bold() != isChanged) {
-    QFont font = label->font();
-    font.setBold(isChanged);
-    label->setFont(font);
-  }
-}
-
-}  // namespace
-
 ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Marked& marked)
     : controller_(controller), marked_(marked) {
   const auto* const dispatcher = QAbstractEventDispatcher::instance();
@@ -27,16 +15,22 @@ ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Marked&
 }
 
 void ChangeMarks::update() {
-  const auto changed = controller_.changedKeys();
+  const auto changed = controller_.saved.changedKeys();
   for (const SettingWidget& place : marked_.settings) {
     // Some controls show more than one key.
     const auto& control = document::rowOf(place.setting->key()).control;
-    mark(place.label, std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
-           return document::rowOf(key).control == control;
-         }));
+    const bool isChanged = std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
+      return document::rowOf(key).control == control;
+    });
+    showState(place, isChanged, place.setting->isDefault());
   }
-  const bool volumesChanged = controller_.volumesChanged();
-  mark(marked_.volumesLabel, volumesChanged);
+  const bool volumesChanged = controller_.saved.volumesChanged();
+  QFont font = marked_.volumesLabel->font();
+  if (font.bold() != volumesChanged) {
+    font.setBold(volumesChanged);
+    marked_.volumesLabel->setFont(font);
+  }
+  marked_.unsaved->refresh();
   if (marked_.readError != nullptr && controller_.preferences.readError().empty()) {
     marked_.readError->hide();
   }

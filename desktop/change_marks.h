@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "desktop/setting_widgets.h"
+#include "desktop/unsaved_bar.h"
 #include "editor/view_controller.h"
 
 namespace desktop {
@@ -19,6 +20,7 @@ class ChangeMarks : public QObject {
     QWidget* window;
     const SettingWidgets& settings;  // more are added while the pages are being made
     QWidget* volumesLabel;
+    UnsavedBar* unsaved;
     QWidget* readError;  // hidden once a save has replaced the unread file; null: it was read
   };
 

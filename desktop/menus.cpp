@@ -9,8 +9,11 @@ namespace desktop {
 Menus::Menus(editor::ViewController& controller, Controls& controls, const Openers& openers)
     : controls_(controls) {
   addFile(controller, openers);
-  add(addMenu(tr("&Edit")), tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
-      openers.preferences);
+  QMenu* const edit = addMenu(tr("&Edit"));
+  add(edit, tr("&Reset This Page"), {}, openers.resetPage)
+      ->setObjectName(QLatin1String("resetPage"));
+  edit->addSeparator();
+  add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), openers.preferences);
   addPresets(controller.presets);
   QMenu* const help = addMenu(tr("&Help"));
   add(help, tr("&Beta Agreement…"), {}, openers.agreement);

@@ -17,6 +17,7 @@ class Menus : public QMenuBar {
   struct Openers {
     std::function<void()> preview;
     std::function<void()> preferences;
+    std::function<void()> resetPage;
     std::function<void()> agreement;
     std::function<void()> about;
   };

@@ -15,13 +15,6 @@ namespace {
 
 QString keyWord(const document::KeyRow& row) { return toQString(std::string(row.text)).trimmed(); }
 
-// The title of an entry is translated under "Items", the state of a check box under "Help". All
-// other texts are the file's own, and no translation knows them.
-QString translatedValue(const std::string& text) {
-  const QString word = QCoreApplication::translate("Help", text.c_str());
-  return word == toQString(text) ? translatedItem(text) : word;
-}
-
 QString shownDefault(const editor::Setting& setting) {
   if (const auto* const screen = dynamic_cast<const editor::ScreenSetting*>(&setting)) {
     const auto [type, width, height] =
@@ -46,6 +39,7 @@ void showMenu(QWidget* widget, const QPoint& position, editor::Setting& setting)
   QAction* const reset = menu->addAction(value.isEmpty() ? tr("Reset to Default (empty)")
                                                          : tr("Reset to Default (%1)").arg(value));
   reset->setObjectName(QLatin1String("resetSetting"));
+  reset->setEnabled(!setting.isDefault());
   QObject::connect(reset, &QAction::triggered, [&setting] { setting.reset(); });
   menu->exec(widget->mapToGlobal(position));
 }
@@ -92,6 +86,42 @@ void offerReset(const SettingWidget& place) {
                      [widget, &setting = *place.setting](const QPoint& position) {
                        showMenu(widget, position, setting);
                      });
+  }
+}
+
+// The title of an entry is translated under "Items", the state of a check box under "Help". All
+// other texts are the file's own, and no translation knows them.
+QString translatedValue(const std::string& text) {
+  const QString word = QCoreApplication::translate("Help", text.c_str());
+  return word == toQString(text) ? translatedItem(text) : word;
+}
+
+void showState(const SettingWidget& place, bool isChanged, bool isDefault) {
+  QFont font = place.label->font();
+  if (font.bold() != isChanged) {
+    font.setBold(isChanged);
+    place.label->setFont(font);
+  }
+  const QString dot = QLatin1Char(' ') + QChar(0x2022);
+  QString text = place.label->property("text").toString();
+  if (text.endsWith(dot) == isDefault) {
+    text = isDefault ? text.chopped(dot.size()) : text + dot;
+    place.label->setProperty("text", text);
+  }
+  QStringList told;
+  if (isChanged) {
+    told.append(tr("Changed."));
+  }
+  if (!isDefault) {
+    told.append(tr("Not the default."));
+  }
+  told.append(place.widget->whatsThis());
+  const QString description = told.join(QLatin1Char(' '));
+  for (QWidget* const widget :
+       {place.widget, static_cast<QWidget*>(place.widget->findChild<QLineEdit*>()), place.label}) {
+    if (widget != nullptr && widget->accessibleDescription() != description) {
+      widget->setAccessibleDescription(description);
+    }
   }
 }
 

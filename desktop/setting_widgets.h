@@ -27,6 +27,12 @@ QString helpOf(const editor::Setting& setting);
 /// Offers to reset a setting in its widget's context menu.
 void offerReset(const SettingWidget& place);
 
+/// Shows in the label and tells screen readers what there is to know of a setting's value.
+void showState(const SettingWidget& place, bool isChanged, bool isDefault);
+
+/// A value as Setting::shownText has it, in the person's language.
+QString translatedValue(const std::string& text);
+
 /// The label of a setting, or of a part of one, in the person's language.
 QString translatedLabel(const char* label);
 

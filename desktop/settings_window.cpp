@@ -65,8 +65,8 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
-  changeMarks_.emplace(controller,
-                       ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, readError_});
+  changeMarks_.emplace(
+      controller, ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, unsaved_, readError_});
   controller.viewWillAppear(delegate_);
   tabs_->setFocus();
 }
@@ -173,8 +173,9 @@ QLayout* SettingsWindow::buttonRow() {
   connect(preferences, &QPushButton::clicked, this, &SettingsWindow::openPreferences);
   QPushButton* const start = controls_.pushButton(controller_.startQuil, tr("S&tart"), QString());
   startShown_ = controller_.startQuil.attach([this, start] { showStart(start); });
+  unsaved_ = new UnsavedBar(controller_, controls_.edits());
   row->addWidget(preferences);
-  row->addStretch();
+  row->addWidget(unsaved_, 1);
   row->addWidget(
       controls_.pushButton(controller_.savePrefs, tr("&Save"), tr("Writes the preferences file.")));
   row->addWidget(start);
@@ -200,9 +201,10 @@ QWidget* SettingsWindow::topRow() {
   auto* const layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(0);
-  menus_ = new Menus(controller_, controls_,
-                     {[this] { openPreview(); }, [this] { openPreferences(); },
-                      [this] { openAgreement(); }, [this] { tellAbout(); }});
+  menus_ =
+      new Menus(controller_, controls_,
+                {[this] { openPreview(); }, [this] { openPreferences(); }, [this] { resetPage(); },
+                 [this] { openAgreement(); }, [this] { tellAbout(); }});
   layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
   find_ = new FindField(
@@ -251,6 +253,16 @@ void SettingsWindow::goTo(const SettingWidget& place) {
 void SettingsWindow::openPreview() {
   controls_.edits().endEditing();
   (new PreviewWindow(controller_, this))->open();
+}
+
+// One edit a setting; the screen has three places on its page.
+void SettingsWindow::resetPage() {
+  controls_.edits().endEditing();
+  for (const SettingWidget& place : settingWidgets_) {
+    if (tabOf(place) == tabs_->currentIndex() && !place.setting->isDefault()) {
+      place.setting->reset();
+    }
+  }
 }
 
 void SettingsWindow::openPreferences() {

@@ -46,6 +46,7 @@ class SettingsWindow : public QMainWindow {
   [[nodiscard]] int tabOf(const SettingWidget& place) const;
   void showStart(QPushButton* button);
   void openPreview();
+  void resetPage();
   void openPreferences();
   void openAgreement();
   void openCreation();
@@ -64,6 +65,7 @@ class SettingsWindow : public QMainWindow {
   bool pagesComplete_ = false;
   SettingWidgets settingWidgets_;
   QWidget* volumesLabel_ = nullptr;
+  UnsavedBar* unsaved_ = nullptr;
   QWidget* readError_ = nullptr;
   std::optional<ChangeMarks> changeMarks_;
   platform::Subscription tabsShown_;

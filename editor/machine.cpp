@@ -219,6 +219,10 @@ std::string ProcessorSetting::shownDefault() const {
   return shownPair(document::rowOf(Key::cpu).defaultValue, row().defaultValue);
 }
 
+bool ProcessorSetting::isDefault() const {
+  return PopUpSetting::isDefault() && cpu() == document::rowOf(Key::cpu).defaultValue;
+}
+
 void ProcessorSetting::reset() {
   group().preferences.setValue(Key::cpu, std::string(document::rowOf(Key::cpu).defaultValue));
   PopUpSetting::reset();

@@ -90,6 +90,8 @@ class ProcessorSetting : public PopUpSetting {
   [[nodiscard]] std::string shownText(std::string_view fpu) const override;
   [[nodiscard]] std::string shownDefault() const override;
 
+  [[nodiscard]] bool isDefault() const override;
+
   /// What the button shows for a pair of values.
   [[nodiscard]] std::string shownPair(std::string_view cpu, std::string_view fpu) const;
 

@@ -23,10 +23,12 @@ void Setting::assign(std::string value) {
   show();
 }
 
-void Setting::reset() {
-  assign(std::string(row().defaultValue));
-  print(value());
+void Setting::change(std::string value) {
+  assign(std::move(value));
+  print(this->value());
 }
+
+void Setting::reset() { change(std::string(row().defaultValue)); }
 
 void Setting::printHeading() const {
   const std::string_view text = row().text;

@@ -82,7 +82,10 @@ class Setting {
   /// way to change a setting without its control.
   void assign(std::string value);
 
-  /// Assigns the default, and tells the diagnostics.
+  /// Assigns a value on a person's behalf, and tells the diagnostics.
+  void change(std::string value);
+
+  /// Changes the value to the default.
   virtual void reset();
 
   /// The key whose row explains the control, where it shows more than one.
@@ -103,6 +106,9 @@ class Setting {
 
   /// What the control shows now, in one or more parts.
   [[nodiscard]] virtual std::vector<std::string> shown() const { return {value()}; }
+
+  /// Whether all that the control shows is as it is by default.
+  [[nodiscard]] virtual bool isDefault() const { return valueToSave() == row().defaultValue; }
 
   /// The value that a save would write now.
   [[nodiscard]] virtual std::string valueToSave() const { return value(); }

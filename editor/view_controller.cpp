@@ -45,7 +45,7 @@ void ViewController::viewDidLoad(document::Preferences::IfMissing ifMissing) {
     setting->load();
   }
   volumes.load(preferences.settings.allContaining("disk "));
-  rememberSaved();
+  saved.remember();
 }
 
 std::string ViewController::loadFrontEndSettings() {
@@ -69,50 +69,25 @@ bool ViewController::save(std::string_view finalMessage) {
   host_.application.makeFirstResponder(filename_field);
   filename_field.setEnabled(false);
   display.screen.join();
-  const bool saved = preferences.save(volumes.volumes().paths(), finalMessage);
-  if (saved) {
-    rememberSaved();
+  const bool isSaved = preferences.save(volumes.volumes().paths(), finalMessage);
+  if (isSaved) {
+    saved.remember();
   }
-  return saved;
-}
-
-std::array<std::string, document::keyCount> ViewController::valuesToSave() const {
-  std::array<std::string, document::keyCount> values;
-  for (const Setting* const setting : settings_) {
-    values.at(document::indexOf(setting->key())) = setting->valueToSave();
-  }
-  return values;
+  happened(isSaved ? Outcome::Kind::saved : Outcome::Kind::notSaved);
+  return isSaved;
 }
 
 std::string ViewController::textToSave() const {
-  return document::Preferences::composed(volumes.volumes().paths(), valuesToSave());
+  return document::Preferences::composed(volumes.volumes().paths(), saved.valuesToSave());
 }
 
-void ViewController::rememberSaved() {
-  savedValues_ = valuesToSave();
-  savedVolumes_ = volumes.volumes().volName();
-  savedRevision_ = volumes.tableView.revision();
-}
-
-std::vector<Key> ViewController::changedKeys() const {
-  std::vector<Key> changed;
-  for (const Setting* const setting : settings_) {
-    if (setting->valueToSave() != savedValues_.at(document::indexOf(setting->key()))) {
-      changed.push_back(setting->key());
-    }
-  }
-  return changed;
-}
-
-// The revision spares comparing thousands of locations while nothing has changed in the table.
-bool ViewController::volumesChanged() const {
-  return volumes.tableView.revision() != savedRevision_ &&
-         volumes.volumes().volName() != savedVolumes_;
-}
+void ViewController::happened(Outcome::Kind kind) { outcome_ = {kind, outcome_.number + 1}; }
 
 StartResult ViewController::saveAndLaunch() {
-  const bool saved = savePrefsAny();
-  return {saved, host_.workspace.launchApplication(app::emulatorPath())};
+  const bool isSaved = savePrefsAny();
+  const bool isLaunched = host_.workspace.launchApplication(app::emulatorPath());
+  happened(isLaunched ? Outcome::Kind::started : Outcome::Kind::notStarted);
+  return {isSaved, isLaunched};
 }
 
 void ViewController::startButton() {

@@ -13,6 +13,7 @@
 #include "editor/machine.h"
 #include "editor/network.h"
 #include "editor/presets.h"
+#include "editor/saved_state.h"
 #include "editor/shared_folder.h"
 #include "editor/tabs.h"
 #include "platform/host.h"
@@ -24,6 +25,14 @@ namespace editor {
 struct StartResult {
   bool saved;
   bool launched;
+};
+
+/// How a save or a start went.
+struct Outcome {
+  enum class Kind { saved, notSaved, started, notStarted };
+
+  Kind kind = Kind::saved;
+  std::size_t number = 0;  // one more each time; 0: neither has happened yet
 };
 
 /// The settings window: owns the document, the volumes and the control groups, fills them at
@@ -46,10 +55,8 @@ class ViewController {
   /// Saves and launches the emulator, whether or not the save went well.
   StartResult saveAndLaunch();
 
-  /// The settings whose lines a save would write otherwise than after start-up or after the last
-  /// successful save.
-  [[nodiscard]] std::vector<Key> changedKeys() const;
-  [[nodiscard]] bool volumesChanged() const;
+  /// How the last save or start went.
+  [[nodiscard]] const Outcome& outcome() const { return outcome_; }
 
   /// The text that a save would write now.
   [[nodiscard]] std::string textToSave() const;
@@ -69,6 +76,7 @@ class ViewController {
   JitGroup jit;
   Presets presets;
   Tabs tabs;
+  SavedState saved{settings_, machine, volumes};
 
   platform::Button bitCreate{"bitCreate"};  // the window decides what it opens
   platform::TextField filename_field{"filename_field"};
@@ -81,8 +89,7 @@ class ViewController {
   void connectActions();
   /// Returns the emulator's location as it stands in the front-end's settings.
   std::string loadFrontEndSettings();
-  [[nodiscard]] std::array<std::string, document::keyCount> valuesToSave() const;
-  void rememberSaved();
+  void happened(Outcome::Kind kind);
   bool save(std::string_view finalMessage);
   void startButton();
   void isStartEnabled();
@@ -92,9 +99,7 @@ class ViewController {
   app::SettingsStore store_;
   platform::Subscription preferencesDone_;
   std::array<Setting*, document::keyCount> settings_;  // by index
-  std::array<std::string, document::keyCount> savedValues_;
-  std::vector<platform::Location> savedVolumes_;
-  std::size_t savedRevision_ = 0;  // of the table
+  Outcome outcome_;
 };
 
 }  // namespace editor

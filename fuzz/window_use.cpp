@@ -43,7 +43,7 @@ class Use {
     window_.startQuil.sendAction();
     const std::string file = host_.home.read(tests::FakeHost::prefs);
     tests::check(file == model_.text(), file + "=== is not ===\n" + model_.text());
-    tests::check(window_.changedKeys().empty() && !window_.volumesChanged(), "all is saved");
+    tests::check(window_.saved.changedKeys().empty() && !window_.saved.volumesChanged(), "all is saved");
   }
 
  private:

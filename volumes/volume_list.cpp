@@ -122,6 +122,17 @@ void VolumeList::add(const std::vector<platform::Location>& chosen) {
       output_.print("Error: ", error.message());
     }
   }
+  printAll();
+}
+
+void VolumeList::restore(const Entries& entries) {
+  volName_ = volLocal_ = entries.locations;
+  volSize_ = entries.sizes;
+  volType_ = entries.kinds;
+  printAll();
+}
+
+void VolumeList::printAll() const {
   for (const platform::Location& location : volName_) {
     output_.print("allfiles: (volName) counter: ", location.text());
   }

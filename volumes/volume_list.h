@@ -28,6 +28,17 @@ class VolumeList {
   /// Takes the entry at `from` out and puts it back so that it ends up at `to`.
   void move(std::size_t from, std::size_t to);
 
+  /// What there is to know of all entries.
+  struct Entries {
+    std::vector<platform::Location> locations;
+    std::vector<std::int64_t> sizes;  // bytes
+    std::vector<std::string> kinds;
+  };
+
+  [[nodiscard]] Entries entries() const { return {volName_, volSize_, volType_}; }
+  /// Makes these the entries again, and prints them as adding does.
+  void restore(const Entries& entries);
+
   [[nodiscard]] std::size_t size() const { return volName_.size(); }
   [[nodiscard]] const std::vector<platform::Location>& volName() const { return volName_; }
   [[nodiscard]] const std::vector<platform::Location>& volLocal() const { return volLocal_; }
@@ -41,6 +52,7 @@ class VolumeList {
   struct Shown;
 
   void loadEntry(std::string_view path, Shown& shown);
+  void printAll() const;
   void append(const platform::Location& location, std::int64_t size, std::string kind);
 
   platform::Output& output_;

@@ -137,6 +137,12 @@ void VolumeTable::removeSelected() {
   tableView.reloadData();
 }
 
+void VolumeTable::restore(const VolumeList::Entries& entries) {
+  volumes_.restore(entries);
+  tableView.selectRows({});
+  tableView.reloadData();
+}
+
 void VolumeTable::chooseNewPlace() {
   platform::SavePanel panel;
   panel.title = "Create a new blank volume";

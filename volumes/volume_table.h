@@ -34,6 +34,9 @@ class VolumeTable : public platform::TableDataSource {
 
   [[nodiscard]] const VolumeList& volumes() const { return volumes_; }
 
+  /// Makes these the images again.
+  void restore(const VolumeList::Entries& entries);
+
   /// Moves the selected rows one place, by the rule of a drop beside their neighbour.
   void moveSelectionUp();
   void moveSelectionDown();

@@ -722,6 +722,14 @@
         <source>&quot;%1&quot; has a line break in its name or in that of a folder, which the preferences file cannot hold. Please rename it first.</source>
         <translation>„%1“ enthält einen Zeilenumbruch, im eigenen Namen oder in dem eines Ordners. Einen solchen kann die Einstellungsdatei nicht aufnehmen. Bitte ändern Sie zuerst den Namen.</translation>
     </message>
+    <message>
+        <source>Changed.</source>
+        <translation>Geändert.</translation>
+    </message>
+    <message>
+        <source>Not the default.</source>
+        <translation>Nicht die Vorgabe.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -748,6 +756,53 @@
     <message>
         <source>Closes this sheet.</source>
         <translation>Schließt dieses Fenster.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ChangesList</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>%1 added</source>
+        <translation>%1 hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 entfernt</translation>
+    </message>
+    <message>
+        <source>in another order</source>
+        <translation>in anderer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Put &amp;All Back</source>
+        <translation>&amp;Alle zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Takes back everything that is not saved.</source>
+        <translation>Nimmt alles zurück, was nicht gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>Disk images</source>
+        <translation>Festplattenabbilder</translation>
+    </message>
+    <message>
+        <source>Put Back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Put back %1</source>
+        <translation>%1 zurücknehmen</translation>
     </message>
 </context>
 <context>
@@ -884,6 +939,10 @@
     <message>
         <source>Pre&amp;view…</source>
         <translation>&amp;Vorschau…</translation>
+    </message>
+    <message>
+        <source>&amp;Reset This Page</source>
+        <translation>Diese Seite &amp;zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1140,37 @@
     <message>
         <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
         <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::UnsavedBar</name>
+    <message>
+        <source>Lists what is not saved, to look at it or to take it back.</source>
+        <translation>Zeigt, was nicht gespeichert ist, zum Ansehen oder Zurücknehmen.</translation>
+    </message>
+    <message>
+        <source>1 unsaved change</source>
+        <translation>1 nicht gespeicherte Änderung</translation>
+    </message>
+    <message>
+        <source>%1 unsaved changes</source>
+        <translation>%1 nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Gespeichert %1</translation>
+    </message>
+    <message>
+        <source>Quillon was started %1</source>
+        <translation>Quillon wurde gestartet %1</translation>
+    </message>
+    <message>
+        <source>Quillon was not started: it could not be executed</source>
+        <translation>Quillon wurde nicht gestartet: Es konnte nicht ausgeführt werden</translation>
+    </message>
+    <message>
+        <source>The file was not saved</source>
+        <translation>Die Datei wurde nicht gespeichert</translation>
     </message>
 </context>
 <context>

@@ -104,7 +104,7 @@ TEST(Editing, ResetsEachSettingToItsDefault) {
   for (Setting* const setting : window.controller.settingsInKeyOrder()) {
     setting->reset();
   }
-  EXPECT_TRUE(window.controller.changedKeys().empty());
+  EXPECT_TRUE(window.controller.saved.changedKeys().empty());
   window.expectSaved();
 }
 

@@ -162,7 +162,7 @@ struct Save {
     fault().call = {};
     const bool told = host.output.text.find("couldn't save prefs file") != std::string::npos;
     EXPECT_NE(saved, told);
-    EXPECT_EQ(window.changedKeys().empty(), saved);
+    EXPECT_EQ(window.saved.changedKeys().empty(), saved);
     return saved;
   }
 };
