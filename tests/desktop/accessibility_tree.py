@@ -14,7 +14,7 @@ import tempfile
 import time
 
 sources, bundle = map(pathlib.Path, sys.argv[1:3])
-keys = re.findall(r'\{Key::\w+, "(\w+) ", "[^"]*", "\w',
+keys = re.findall(r'"(\w+) ",\s*"[^"]*",\s*"\w',
                   (sources / "document/key_table.h").read_text())
 INTERACTIVE = ["check box", "combo box", "push button", "spin button", "table", "text"]
 faults = []
