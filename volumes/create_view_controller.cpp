@@ -15,8 +15,11 @@ using platform::TextColor;
 
 constexpr std::int64_t imageSizeConvert = 1048576;  // bytes per megabyte
 constexpr std::int64_t usualSize = 100;             // megabytes
-constexpr std::int64_t largestSize =
-    std::numeric_limits<std::int64_t>::max() / imageSizeConvert;  // megabytes
+// In megabytes; fewer where addresses are shorter than file lengths.
+constexpr auto largestSize =
+    static_cast<std::int64_t>(std::min<std::uint64_t>(std::numeric_limits<std::int64_t>::max(),
+                                                      std::numeric_limits<std::size_t>::max()) /
+                              imageSizeConvert);
 constexpr const char* nameNeeded = "Status: You need to enter a name!";
 
 // The megabytes that a text asks for; none when they are more than can be counted.
