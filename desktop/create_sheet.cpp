@@ -2,10 +2,10 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "app/emulator_location.h"
+#include "desktop/plain_text.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -27,8 +27,7 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   size->setAccessibleName(tr("Size in megabytes"));
   size->setPlaceholderText(QLatin1String("100"));
   form->addRow(tr("&Size (MB):"), size);
-  auto* const place =
-      new QLabel(toQString(app::ownFolder()));
+  QLabel* const place = plainLabel(toQString(app::ownFolder()));
   place->setWordWrap(true);
   place->setAlignment(leadingSide() | Qt::AlignVCenter);
   form->addRow(tr("Folder:"), place);

@@ -11,6 +11,7 @@
 #include <memory>
 #include <utility>
 
+#include "desktop/plain_text.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -90,6 +91,7 @@ std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& titl
   auto dialog = std::make_unique<Dialog>(window, toQString(title));
   // Qt's own dialog matches endings without regard to case; those of some desktops do not.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
+  keepMessagesPlain(dialog.get());
   return dialog;
 }
 

@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include "desktop/plain_text.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -69,7 +70,8 @@ QVariant VolumeModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DecorationRole) {
     return shownCell->image.empty() ? QVariant() : QVariant(image(shownCell->image));
   }
-  return toQString(shownCell->text);
+  const QString text = toQString(shownCell->text);
+  return role == Qt::ToolTipRole ? plainToolTip(text) : text;
 }
 
 QVariant VolumeModel::alignment(int column) const {

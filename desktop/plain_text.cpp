@@ -1,0 +1,40 @@
+#include "desktop/plain_text.h"
+
+#include <QChildEvent>
+#include <QMessageBox>
+#include <QTextDocument>
+
+namespace desktop {
+namespace {
+
+class PlainMessages : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // Polished before it is laid out, and only the layout loads what a text names.
+    if (event->type() == QEvent::ChildPolished) {
+      auto* const child = static_cast<QChildEvent*>(event)->child();
+      if (auto* const box = qobject_cast<QMessageBox*>(child)) {
+        box->setTextFormat(Qt::PlainText);
+      }
+    }
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+}  // namespace
+
+QString plainToolTip(const QString& text) { return Qt::convertFromPlainText(text); }
+
+QLabel* plainLabel(const QString& text) {
+  auto* const label = new QLabel;
+  label->setTextFormat(Qt::PlainText);  // first: the text would be parsed otherwise
+  label->setText(text);
+  return label;
+}
+
+void keepMessagesPlain(QDialog* dialog) { dialog->installEventFilter(new PlainMessages(dialog)); }
+
+}  // namespace desktop
