@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/edits.h"
+#include "desktop/key_repeat.h"
 #include "platform/application.h"
 
 namespace desktop {
@@ -13,6 +14,9 @@ class Application : public platform::Application {
   void makeFirstResponder(platform::TextField& field) override;
 
   Edits edits;
+
+ private:
+  KeyRepeat keyRepeat_;
 };
 
 }  // namespace desktop

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -53,6 +54,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   layout->addLayout(buttonRow());
   help_->follow(content);
   fillPage(editor::TabId::volumes);
+  guardStart();
   // The controller may outlive this window.
   controller.bitCreate.action = [window = QPointer(this)] {
     if (window) {
@@ -192,6 +194,19 @@ void SettingsWindow::showStart(QPushButton* button) {
   button->setEnabled(enabled);
   menus_->setStartEnabled(enabled);
   describe(button, controller_.startQuil, help);
+}
+
+// A double click would start two emulators, which ruin the disk images that both write to. The time
+// counts from the end of a start: what was pressed during a slow save comes right after it.
+void SettingsWindow::guardStart() {
+  constexpr qint64 pause = 2000;  // milliseconds in which another start does nothing
+  controller_.startQuil.action = [sinceLast = QElapsedTimer(),
+                                  start = controller_.startQuil.action]() mutable {
+    if (!sinceLast.isValid() || sinceLast.hasExpired(pause)) {
+      start();
+      sinceLast.start();
+    }
+  };
 }
 
 // The search field stands beside the menu bar and is no corner widget of it: QMenuBar hides itself,

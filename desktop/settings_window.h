@@ -47,6 +47,7 @@ class SettingsWindow : public QMainWindow {
   void showStart(QPushButton* button);
   void openPreview();
   void resetPage();
+  void guardStart();
   void openPreferences();
   void openAgreement();
   void openCreation();

@@ -117,7 +117,8 @@ void VolumeView::rememberSelection(const QItemSelection& selected,
 
 void VolumeView::keyPressEvent(QKeyEvent* event) {
   const bool alt = event->modifiers() == Qt::AltModifier;
-  const bool plain = event->modifiers() == Qt::NoModifier;
+  // A held Delete would empty the list.
+  const bool plain = event->modifiers() == Qt::NoModifier && !event->isAutoRepeat();
   if (alt && event->key() == Qt::Key_Up) {
     volumes_.moveSelectionUp();
   } else if (alt && event->key() == Qt::Key_Down) {

@@ -1,0 +1,75 @@
+#include <QTableView>
+
+#include "tests/desktop/window_fixture.h"
+
+namespace {
+
+class Repeat : public tests::WindowTest {
+ protected:
+  /// Holds a key until it has come a few times, as window systems tell of it.
+  static void hold(Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    const QString text(code == Qt::Key_Space ? QLatin1String(" ") : QString());
+    QTest::simulateEvent(front(), true, code, modifiers, text, false);
+    for (int time = 0; time < 5; ++time) {
+      QTest::simulateEvent(front(), false, code, modifiers, text, true);
+      QTest::simulateEvent(front(), true, code, modifiers, text, true);
+    }
+    QTest::simulateEvent(front(), false, code, modifiers, text, false);
+  }
+
+  qsizetype starts() const {
+    return QString::fromStdString(fake.output.text).count(QLatin1String("<launch"));
+  }
+};
+
+TEST_F(Repeat, WhateverIsHeldOrPressedTwiceStartsOnce) {
+  const std::vector<std::pair<const char*, std::function<void()>>> ways = {
+      {"Ctrl+Return", [] { hold(Qt::Key_Return, Qt::ControlModifier); }},
+      {"space bar",
+       [this] {
+         find("startQuil")->setFocus();
+         hold(Qt::Key_Space);
+       }},
+      {"double click",
+       [this] {
+         click("startQuil");
+         click("startQuil");
+       }},
+      {"button and key", [this] {
+         click("startQuil");
+         key(Qt::Key_Return, Qt::ControlModifier);
+       }}};
+  for (const auto& [name, start] : ways) {
+    SCOPED_TRACE(name);
+    fake.said();
+    open();
+    start();
+    EXPECT_EQ(starts(), 1);
+  }
+  QTest::qWait(2001);
+  click("startQuil");
+  EXPECT_EQ(starts(), 2);
+}
+
+TEST_F(Repeat, AHeldKeySavesOnceAndRemovesOneImage) {
+  open("disk /a\ndisk /b\ndisk /c\n");
+  fake.said();
+  hold(Qt::Key_S, Qt::ControlModifier);
+  const QString said = QString::fromStdString(fake.said());
+  EXPECT_EQ(said.count(QLatin1String("post write prefs")), 1);
+  find<QTableView>("tableView")->setFocus();
+  find<QTableView>("tableView")->selectRow(0);
+  hold(Qt::Key_Delete);
+  EXPECT_EQ(controller->volumes.volumes().size(), 2U);
+}
+
+TEST_F(Repeat, AHeldReturnMakesAnImageAndLeavesTheSheetOpen) {
+  open();
+  click("bitCreate");
+  typeInto("createName", "a");
+  typeInto("createSize", "0");
+  hold(Qt::Key_Return);
+  EXPECT_TRUE(find("createStatus")->isVisible());
+}
+
+}  // namespace
