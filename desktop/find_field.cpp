@@ -53,8 +53,12 @@ void FindField::focusInEvent(QFocusEvent* event) {
     buildList();
     setClearButtonEnabled(true);
   }
+  nameHits();
   QLineEdit::focusInEvent(event);
-  selectAll();
+  // A list that closes gives the focus back: what comes next goes on with the word.
+  if (event->reason() != Qt::PopupFocusReason) {
+    selectAll();
+  }
 }
 
 bool FindField::event(QEvent* event) {
@@ -85,24 +89,38 @@ void FindField::keyPressEvent(QKeyEvent* event) {
 }
 
 void FindField::buildList() {
-  auto* const model = new QStandardItemModel(this);
-  int width = 0;
+  hits_ = new QStandardItemModel(this);
   for (std::size_t place = 0; place < settingWidgets_.size(); ++place) {
     const SettingWidget& entry = settingWidgets_[place];
-    auto* const item = new QStandardItem(tr("%1 — %2").arg(entry.title, tabOf_(entry)));
+    auto* const item = new QStandardItem;
     item->setData(entry.title + QLatin1Char('\n') + entry.widget->whatsThis(), searchedRole);
     item->setData(static_cast<qulonglong>(place), placeRole);
-    model->appendRow(item);
-    width = std::max(width, fontMetrics().horizontalAdvance(item->text()));
+    hits_->appendRow(item);
   }
-  auto* const list = new SettingCompleter(model, this);
+  auto* const list = new SettingCompleter(hits_, this);
   list->setCompletionRole(searchedRole);
   list->setFilterMode(Qt::MatchContains);
   list->setCaseSensitivity(Qt::CaseInsensitive);
   list->setMaxVisibleItems(12);
   setCompleter(list);
-  list->popup()->setMinimumWidth(width + 2 * fontMetrics().height());
-  connect(list, qOverload<const QModelIndex&>(&QCompleter::activated), this, &FindField::goTo);
+  // Not to a slot of the field: Qt cuts those off when the field loses the focus.
+  connect(list, qOverload<const QModelIndex&>(&QCompleter::activated), list,
+          [this](const QModelIndex& hit) { goTo(hit); });
+}
+
+// A setting that is disabled says what comes first.
+void FindField::nameHits() {
+  int width = 0;
+  for (int row = 0; row < hits_->rowCount(); ++row) {
+    const SettingWidget& entry = settingWidgets_[static_cast<std::size_t>(row)];
+    QString name = tr("%1 — %2").arg(entry.title, tabOf_(entry));
+    if (const SettingWidget* const enabler = enablerOf(entry, settingWidgets_)) {
+      name = tr("%1 (turn on \"%2\" first)").arg(name, enabler->title);
+    }
+    hits_->item(row)->setText(name);
+    width = std::max(width, fontMetrics().horizontalAdvance(name));
+  }
+  completer()->popup()->setMinimumWidth(width + 2 * fontMetrics().height());
 }
 
 void FindField::goTo(const QModelIndex& hit) {

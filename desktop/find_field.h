@@ -6,6 +6,7 @@
 #include "desktop/setting_widgets.h"
 
 class QCompleter;
+class QStandardItemModel;
 
 namespace desktop {
 
@@ -28,9 +29,11 @@ class FindField : public QLineEdit {
  private:
   [[nodiscard]] bool hasOpenList() const;
   void buildList();
+  void nameHits();
   void goTo(const QModelIndex& hit);
 
   const SettingWidgets& settingWidgets_;
+  QStandardItemModel* hits_ = nullptr;  // a row for each setting
   std::function<QString(const SettingWidget&)> tabOf_;
   std::function<void(const SettingWidget&)> go_;
 };

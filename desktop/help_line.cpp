@@ -46,8 +46,10 @@ void HelpLine::follow(QWidget* parent) {
   }
 }
 
-void HelpLine::explain(const QWidget* widget) {
-  setText(helpAt(widget));
+void HelpLine::explain(const QWidget* widget) { tell(helpAt(widget)); }
+
+void HelpLine::tell(const QString& text) {
+  setText(text);
   // A narrow window with large letters gets more, and keeps it.
   if (isVisible()) {
     const int most = mostLines * fontMetrics().lineSpacing();

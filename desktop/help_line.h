@@ -20,6 +20,9 @@ class HelpLine : public QLabel {
   /// Explains the widgets inside `parent` that have something to tell.
   void follow(QWidget* parent);
 
+  /// Shows a text until there is something else to explain.
+  void tell(const QString& text);
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

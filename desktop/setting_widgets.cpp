@@ -46,6 +46,14 @@ void showMenu(QWidget* widget, const QPoint& position, editor::Setting& setting)
 
 }  // namespace
 
+const SettingWidget* enablerOf(const SettingWidget& place, const SettingWidgets& all) {
+  const editor::Setting* const enabler =
+      place.widget->isEnabled() ? nullptr : place.setting->enabledBy();
+  const auto found = std::find_if(
+      all.begin(), all.end(), [&](const SettingWidget& other) { return other.setting == enabler; });
+  return found == all.end() ? nullptr : &*found;
+}
+
 QString helpOf(const editor::Setting& setting) {
   const document::KeyRow& row = document::rowOf(setting.explainedKey());
   const QString value = shownDefault(setting);

@@ -21,6 +21,9 @@ using SettingWidgets = std::vector<SettingWidget>;
 /// Ends the program, with a word to the developer, when a setting that has a control is on no page.
 void requireEverySetting(const SettingWidgets& shown);
 
+/// The place of the setting that enables a disabled one; none for an enabled one.
+const SettingWidget* enablerOf(const SettingWidget& place, const SettingWidgets& all);
+
 /// The help of a setting: what it does, what to leave it at, and what is written to the file.
 QString helpOf(const editor::Setting& setting);
 

@@ -260,8 +260,13 @@ int SettingsWindow::tabOf(const SettingWidget& place) const {
 }
 
 void SettingsWindow::goTo(const SettingWidget& place) {
-  tabs_->setCurrentIndex(tabOf(place));
-  place.widget->setFocus(Qt::ShortcutFocusReason);
+  const SettingWidget* const enabler = enablerOf(place, settingWidgets_);
+  const SettingWidget& target = enabler != nullptr ? *enabler : place;
+  tabs_->setCurrentIndex(tabOf(target));
+  target.widget->setFocus(Qt::ShortcutFocusReason);
+  if (enabler != nullptr) {
+    help_->tell(tr("\"%1\" is disabled. Turn on \"%2\" first.").arg(place.title, target.title));
+  }
 }
 
 // As a save would, it takes in first what is being typed.

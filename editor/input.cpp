@@ -9,7 +9,9 @@ RawKeysSetting::RawKeysSetting(ControlGroup& group, TextFieldSetting& file)
                       {.heading = Announcement::Heading::keyText,
                        .form = Announcement::Form::line,
                        .label = "results9: "}),
-      file_(file) {}
+      file_(file) {
+  file.setEnabledBy(*this);
+}
 
 // Any other value than the two leaves the box off and the field open, as they are in a new window.
 void RawKeysSetting::show() {

@@ -91,6 +91,10 @@ class Setting {
   /// The key whose row explains the control, where it shows more than one.
   [[nodiscard]] virtual Key explainedKey() const { return key_; }
 
+  /// The setting that must be on for the control to be enabled, if any.
+  [[nodiscard]] const Setting* enabledBy() const { return enabledBy_; }
+  void setEnabledBy(const Setting& setting) { enabledBy_ = &setting; }
+
   /// What the window calls the setting, as it stands in the table.
   [[nodiscard]] const char* label() const { return document::rowOf(explainedKey()).label; }
 
@@ -139,6 +143,7 @@ class Setting {
   ControlGroup& group_;
   Key key_;
   Announcement announcement_;
+  const Setting* enabledBy_ = nullptr;
 };
 
 /// The settings of all groups by index. Ends the program, with a word to the developer, when a key

@@ -878,6 +878,10 @@
         <source>%1 — %2</source>
         <translation>%1 – %2</translation>
     </message>
+    <message>
+        <source>%1 (turn on &quot;%2&quot; first)</source>
+        <translation>%1 (zuerst „%2“ einschalten)</translation>
+    </message>
 </context>
 <context>
     <name>desktop::HelpLine</name>
@@ -1140,6 +1144,10 @@
     <message>
         <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
         <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
+        <translation>„%1“ ist gesperrt. Schalten Sie zuerst „%2“ ein.</translation>
     </message>
 </context>
 <context>
