@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLayout>
-#include <QMessageBox>
 #include <memory>
 #include <utility>
 
@@ -19,27 +18,10 @@ namespace {
 
 using platform::Location;
 
-// The preferences file has a line for each path: one with a line break would be read as two.
-void tellLineBreak(const QFileDialog& dialog, const QString& file) {
-  auto* const box = new QMessageBox(
-      QMessageBox::Warning, dialog.windowTitle(),
-      tr("\"%1\" has a line break in its name or in that of a folder, which the preferences file "
-         "cannot hold. Please rename it first.")
-          .arg(file),
-      QMessageBox::Ok, dialog.parentWidget());
-  box->setTextFormat(Qt::PlainText);
-  box->setAttribute(Qt::WA_DeleteOnClose);
-  box->open();
-}
-
 std::vector<Location> locationsOf(const QFileDialog& dialog) {
   std::vector<Location> locations;
   for (const QString& file : dialog.selectedFiles()) {
-    if (file.contains(QLatin1Char('\n'))) {
-      tellLineBreak(dialog, file);
-    } else {
-      locations.push_back(Location::fromPath(fromQString(file)));
-    }
+    locations.push_back(Location::fromPath(fromQString(file)));
   }
   return locations;
 }

@@ -50,9 +50,13 @@ void TextFieldSetting::committed() {
   print(value());
 }
 
-void TextFieldSetting::setChosenPath(const std::string& path) {
-  assign(path);
-  print(path);
+void TextFieldSetting::takeChosen(const std::vector<platform::Location>& chosen) {
+  const auto fitting = platform::thatFitALine(chosen, group().output);
+  if (!fitting.empty()) {
+    const std::string path = fitting.front().path();
+    assign(path);
+    print(path);
+  }
 }
 
 ComboBoxSetting::ComboBoxSetting(ControlGroup& group, Key key, Announcement announcement)
@@ -133,9 +137,7 @@ void FileButton::browse() {
   platform::OpenPanel panel;
   panel.directory = folderOf(setting_.field.stringValue());
   panels_.begin(panel, [this](const std::vector<platform::Location>& chosen) {
-    if (!chosen.empty()) {
-      setting_.setChosenPath(chosen.front().path());
-    }
+    setting_.takeChosen(chosen);
   });
 }
 

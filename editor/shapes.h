@@ -42,8 +42,8 @@ class TextFieldSetting : public Setting {
 
   platform::TextField field;
 
-  /// Takes over a path that was chosen in a panel.
-  void setChosenPath(const std::string& path);
+  /// Takes over the path that was chosen in a panel, if any was.
+  void takeChosen(const std::vector<platform::Location>& chosen);
 
  protected:
   void show() override { field.setStringValue(value()); }

@@ -15,7 +15,7 @@ void SharedFolderGroup::chooseFolder() {
   panel.canChooseDirectories = true;
   panel.canCreateDirectories = true;
   panel.directory = folderOf(unixRootPath.field.stringValue());
-  const auto chosen = panels.runModal(panel);
+  const auto chosen = platform::thatFitALine(panels.runModal(panel), output);
   if (!chosen.empty()) {
     const std::string path = chosen.front().path();
     unixRootPath.assign(path);

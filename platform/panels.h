@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/location.h"
+#include "platform/output.h"
 
 namespace platform {
 
@@ -51,5 +52,9 @@ class Panels {
   virtual void beginSheet(const OpenPanel& panel, Chosen completion) = 0;
   virtual void beginSheet(const SavePanel& panel, Chosen completion) = 0;
 };
+
+/// Those of the chosen files whose paths the preferences file can hold, a line for each; the output
+/// gets a line about every other one.
+std::vector<Location> thatFitALine(const std::vector<Location>& chosen, Output& output);
 
 }  // namespace platform

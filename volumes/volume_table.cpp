@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/byte_count.h"
 #include "platform/text.h"
@@ -115,8 +116,9 @@ void VolumeTable::chooseFiles() {
                             "toast", "sparsebundle", "sparse", "dc42",  "hfv", "hvf",
                             "hfs",   "ndif",         "dk*",    "cue"};
   panels_.beginSheet(panel, [this](const std::vector<platform::Location>& chosen) {
-    if (!chosen.empty()) {
-      result_ = chosen;
+    auto fitting = platform::thatFitALine(chosen, output_);
+    if (!fitting.empty()) {
+      result_ = std::move(fitting);
       volumes_.add(result_);
     }
     tableView.reloadData();

@@ -719,10 +719,6 @@
         <translation>Bis Sie etwas auswählen, steht dort „%1“.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; has a line break in its name or in that of a folder, which the preferences file cannot hold. Please rename it first.</source>
-        <translation>„%1“ enthält einen Zeilenumbruch, im eigenen Namen oder in dem eines Ordners. Einen solchen kann die Einstellungsdatei nicht aufnehmen. Bitte ändern Sie zuerst den Namen.</translation>
-    </message>
-    <message>
         <source>Changed.</source>
         <translation>Geändert.</translation>
     </message>

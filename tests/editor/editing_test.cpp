@@ -156,6 +156,9 @@ TEST(Editing, TakesChosenPaths) {
     button.sendAction();
     EXPECT_EQ(host.said(), "") << "a cancel changes nothing";
     EXPECT_EQ(host.panels.open.directory, "") << "no file was chosen before";
+    host.panels.answers = {{platform::Location::fromPath("/a\nb")}};
+    button.sendAction();
+    EXPECT_EQ(host.said(), "A line feed cannot stand in the preferences file: file:///a%0Ab\n");
     host.panels.answers = {{platform::Location::fromPath(path)}};
     button.sendAction();
     EXPECT_EQ(host.said(), label + path + "\n");

@@ -80,11 +80,15 @@ TEST_F(VolumeTableTest, AddsWhatIsChosen) {
   VolumeTable table(host.output, host.panels);
   load(table, "A");
   host.home.write("B", "12");
-  host.panels.answers = {{}, {at("B"), at("A"), at("gone")}};
+  const auto unfit = platform::Location::fromPath("/a\nb");
+  const std::string refused = "A line feed cannot stand in the preferences file: file:///a%0Ab\n";
+  host.panels.answers = {{}, {unfit}, {at("B"), unfit, at("A"), at("gone")}};
   table.browseFile.sendAction();
   EXPECT_EQ(host.said(), "") << "a cancel adds nothing";
   table.browseFile.sendAction();
-  std::string said = "[1, 2]\n[1, 2, 1]\nError: No such file or directory\n";
+  EXPECT_EQ(host.said(), refused);
+  table.browseFile.sendAction();
+  std::string said = refused + "[1, 2]\n[1, 2, 1]\nError: No such file or directory\n";
   for (const char* const name : {"A", "B", "A", "gone"}) {
     said += "allfiles: (volName) counter: " + at(name).text() + "\n";
   }
