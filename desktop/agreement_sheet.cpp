@@ -11,6 +11,7 @@ AgreementSheet::AgreementSheet(const platform::Host& host, Edits& edits, QWidget
   setObjectName(QLatin1String("agreementSheet"));
   setWindowTitle(tr("Beta Agreement"));
   setWindowModality(Qt::WindowModal);
+  setWindowFlag(Qt::WindowCloseButtonHint, false);
   setAttribute(Qt::WA_DeleteOnClose);
 
   auto* const text = new QLabel(
@@ -42,7 +43,7 @@ AgreementSheet::AgreementSheet(const platform::Host& host, Edits& edits, QWidget
   agree->setFocus();  // the other button, which comes first, ends the program
   setMinimumWidth(30 * fontMetrics().lineSpacing());
 
-  controller_.dismiss = [this] { close(); };
+  controller_.dismiss = [this] { accept(); };
   controller_.viewWillAppear();
 }
 

@@ -1,0 +1,30 @@
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QTranslator>
+
+#include "desktop/panels.h"
+#include "tests/desktop/window_fixture.h"
+
+namespace {
+
+class Sheets : public tests::WindowTest {
+ protected:
+  std::string status() const { return find<QLabel>("createStatus")->text().toStdString(); }
+};
+
+TEST_F(Sheets, TheAgreementIsLeftByItsButtonsOnly) {
+  open();
+  key(Qt::Key_H, Qt::AltModifier);
+  key(Qt::Key_B);
+  const QPointer<QWidget> sheet = find("agreementText")->window();
+  QTest::keyClick(sheet->windowHandle(), Qt::Key_Escape);
+  EXPECT_FALSE(sheet->close());  // as its frame does
+  EXPECT_TRUE(sheet->isVisible());
+  fake.said();
+  window->close();
+  EXPECT_EQ(fake.said(), "windowWillClose\n");
+  click("Agree");
+  EXPECT_FALSE(sheet != nullptr && sheet->isVisible());
+}
+
+}  // namespace
