@@ -71,10 +71,10 @@ void Controls::attach(platform::Control& control, const QObject* widget, Show sh
 
 PendingEdit* Controls::pendingEdit(QLineEdit* field, platform::TextField& control,
                                    PendingEdit::TextCallback typed,
-                                   PendingEdit::TextCallback commit) {
+                                   PendingEdit::TextCallback commit, PendingEdit::Commits commits) {
   return pendingEdits_
       .emplace_back(std::make_unique<PendingEdit>(field, control, edits_, std::move(typed),
-                                                  std::move(commit)))
+                                                  std::move(commit), commits))
       .get();
 }
 
@@ -138,7 +138,8 @@ QAction* Controls::menuEntry(platform::Button& control, const QString& text, QOb
   return entry;
 }
 
-QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help) {
+QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help,
+                              PendingEdit::Commits commits) {
   auto* const field = new QLineEdit;
   describe(field, control, help);
   field->setMaxLength(std::numeric_limits<int>::max());
@@ -146,7 +147,7 @@ QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help)
   PendingEdit* const pending = pendingEdit(
       field, control,
       [store, &control](const QString& text) { control.setFromView([&] { store(text); }); },
-      [store, &control](const QString& text) { control.edit([&] { store(text); }); });
+      [store, &control](const QString& text) { control.edit([&] { store(text); }); }, commits);
   attach(control, field, [field, pending, &control] {
     field->setEnabled(control.isEnabled());
     field->setReadOnly(!control.isEditable());

@@ -36,7 +36,10 @@ class Controls {
   QRadioButton* radioButton(platform::Button& control, const QString& text, const QString& help);
   /// A menu entry with a check mark.
   QAction* menuEntry(platform::Button& control, const QString& text, QObject* parent);
-  QLineEdit* lineEdit(platform::TextField& control, const QString& help);
+  QLineEdit* lineEdit(platform::TextField& control, const QString& help,
+                      PendingEdit::Commits commits = PendingEdit::Commits::whenNew);
+  /// A field of a path, on which a file can be dropped.
+  QLineEdit* pathField(platform::TextField& control, const QString& help);
   QComboBox* comboBox(platform::ComboBox& control, const QString& help);
   QComboBox* popUpButton(platform::PopUpButton& control, const QString& help);
 
@@ -56,7 +59,8 @@ class Controls {
   template <typename Show>
   void attach(platform::Control& control, const QObject* widget, Show show);
   PendingEdit* pendingEdit(QLineEdit* field, platform::TextField& control,
-                           PendingEdit::TextCallback typed, PendingEdit::TextCallback commit);
+                           PendingEdit::TextCallback typed, PendingEdit::TextCallback commit,
+                           PendingEdit::Commits commits = PendingEdit::Commits::whenNew);
 
   Edits& edits_;
   std::vector<std::unique_ptr<PendingEdit>> pendingEdits_;

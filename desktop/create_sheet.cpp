@@ -20,7 +20,8 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   auto* const form = new QFormLayout;
   const QString nameHelp = tr("The name of the image file, without \".dsk\".");
   const QString sizeHelp = tr("The size in megabytes. 100 if this is no whole number.");
-  QLineEdit* const name = controls_.lineEdit(controller_.createName, nameHelp);
+  QLineEdit* const name =
+      controls_.lineEdit(controller_.createName, nameHelp, PendingEdit::Commits::always);
   name->setAccessibleName(tr("Name"));
   form->addRow(tr("&Name:"), name);
   QLineEdit* const size = controls_.lineEdit(controller_.createSize, sizeHelp);

@@ -40,8 +40,12 @@ QWidget* Edits::widgetOf(const platform::TextField& control) const {
 }
 
 PendingEdit::PendingEdit(QLineEdit* field, const platform::TextField& control, Edits& edits,
-                         TextCallback typed, TextCallback commit)
-    : field_(field), control_(control), commit_(std::move(commit)), settled_(field->text()) {
+                         TextCallback typed, TextCallback commit, Commits commits)
+    : field_(field),
+      control_(control),
+      commit_(std::move(commit)),
+      commits_(commits),
+      settled_(field->text()) {
   edits.add(this);
   focusWidget()->installEventFilter(this);
   connect(field, &QLineEdit::textEdited, this,
@@ -69,12 +73,19 @@ void PendingEdit::endEditing() {
   }
 }
 
+void PendingEdit::finish() {
+  if (commits_ == Commits::always && !isPending()) {
+    commit_(field_->text());
+  }
+  endEditing();
+}
+
 void PendingEdit::returnPressed() {
   // With an offered completion picked, the completer tells of it right after this.
   const QCompleter* const completer = field_->completer();
   const QAbstractItemView* const popup = completer != nullptr ? completer->popup() : nullptr;
   if (popup == nullptr || !popup->isVisible() || !popup->currentIndex().isValid()) {
-    endEditing();
+    finish();
   }
 }
 
@@ -83,7 +94,7 @@ bool PendingEdit::eventFilter(QObject* watched, QEvent* event) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
     // With these reasons the focus comes back: a menu or another window is open in front.
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
-      endEditing();
+      finish();
     }
   }
   return QObject::eventFilter(watched, event);

@@ -30,17 +30,20 @@ class Edits {
 };
 
 /// Tells what a person typed into a line edit: on Return, when the focus leaves, or on request, and
-/// only if there is something new. A program that sets the text on the person's behalf, as screen
-/// readers do, counts as well.
+/// as a rule only if there is something new. A program that sets the text on the person's behalf,
+/// as screen readers do, counts as well.
 class PendingEdit : public QObject {
   Q_OBJECT
 
  public:
+  /// On Return and when the focus leaves.
+  enum class Commits { whenNew, always };
+
   using TextCallback = std::function<void(const QString&)>;
 
   /// `typed` gets the text while it is being typed, `commit` when that has ended.
   PendingEdit(QLineEdit* field, const platform::TextField& control, Edits& edits,
-              TextCallback typed, TextCallback commit);
+              TextCallback typed, TextCallback commit, Commits commits);
 
   [[nodiscard]] const platform::TextField& control() const { return control_; }
 
@@ -64,11 +67,13 @@ class PendingEdit : public QObject {
   [[nodiscard]] bool isPending() const {
     return field_ != nullptr && (typed_ || field_->text() != settled_);
   }
+  void finish();
   void returnPressed();
 
   QPointer<QLineEdit> field_;
   const platform::TextField& control_;
   TextCallback commit_;
+  Commits commits_;
   QString settled_;
   QString text_;  // as typed: a completion that was only looked at does not count
   bool typed_ = false;

@@ -27,4 +27,15 @@ TEST_F(Sheets, TheAgreementIsLeftByItsButtonsOnly) {
   EXPECT_FALSE(sheet != nullptr && sheet->isVisible());
 }
 
+TEST_F(Sheets, LeavingTheNameEmptyIsTold) {
+  open();
+  click("bitCreate");
+  QTest::qWait(0);
+  const QPalette before = find("createStatus")->palette();
+  EXPECT_EQ(status(), "");
+  key(Qt::Key_Tab);
+  EXPECT_EQ(status(), "Status: You need to enter a name!");
+  EXPECT_EQ(find("createStatus")->palette(), before);
+}
+
 }  // namespace
