@@ -85,7 +85,7 @@ QPushButton* Controls::pushButton(platform::Button& control, const QString& text
   attach(control, button, [button, &control] {
     button->setEnabled(control.isEnabled());
     if (!control.title().empty()) {
-      button->setText(toQString(control.title()));
+      button->setText(translatedItem(control.title()));
     }
   });
   QObject::connect(button, &QPushButton::clicked, &connections_, [this, button, &control] {

@@ -4,6 +4,8 @@
 #include <QString>
 #include <string>
 
+#include "editor/shapes.h"
+
 namespace desktop {
 
 /// The bytes of the core as text of the window, and back.
@@ -16,8 +18,13 @@ inline std::string fromQString(const QString& text) { return text.toStdString();
 /// language.
 inline QString tr(const char* text) { return QCoreApplication::translate("desktop", text); }
 
-/// An entry of a list of the core in the person's language.
+/// An entry of a list or the title of a button of the core in the person's language. A value of the
+/// file among them stays as it is.
 inline QString translatedItem(const std::string& text) {
+  if (text.ends_with(editor::fromFile)) {
+    return toQString(text.substr(0, text.size() - editor::fromFile.size())) +
+           QCoreApplication::translate("Items", editor::fromFile.data());
+  }
   return QCoreApplication::translate("Items", text.c_str());
 }
 

@@ -201,7 +201,7 @@ void RefreshRateSetting::fill() {
 void RefreshRateSetting::show() {
   if (entryOf(value()) == button.items().size()) {
     otherValues_.push_back(value());
-    button.addItems({value() + " (from the file)"});
+    button.addItems({value() + std::string(fromFile)});
   }
   PopUpSetting::show();
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "editor/setting.h"
+#include "platform/translatable.h"
 
 namespace editor {
 
@@ -89,6 +90,9 @@ class StepperSetting : public Setting {
 
   std::string_view echo_;
 };
+
+/// Stands behind a value of the file in the list of a setting that has no entry for it.
+inline constexpr std::string_view fromFile = platform::translatable("Items", " (from the file)");
 
 /// A value of which each stands for one entry of a list.
 class PopUpSetting : public Setting {

@@ -6,6 +6,7 @@
 
 #include "app/emulator_location.h"
 #include "platform/text.h"
+#include "platform/translatable.h"
 #include "volumes/blank_image.h"
 
 namespace volumes {
@@ -47,7 +48,7 @@ void createViewController::viewWillAppear() {
   output_.print("create loaded");
   createProgressStatus.setUsesThreadedAnimation(true);
   createStatus.setTextColor(TextColor::gray);
-  createImage.setTitle("Create");
+  createImage.setTitle(platform::translatable("Items", "Create"));
   donecreate_ = false;
 }
 
@@ -98,7 +99,7 @@ void createViewController::createAction() {
   createStatus.setStringValue("Status: '" + name + "' - " + std::to_string(imageSize_) +
                               " MB Done!");
   donecreate_ = true;
-  createImage.setTitle("Done");
+  createImage.setTitle(platform::translatable("Items", "Done"));
 }
 
 void createViewController::createNameAction() {

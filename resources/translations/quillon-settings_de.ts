@@ -424,6 +424,18 @@
         <source>7.5 Hz</source>
         <translation>7,5 Hz</translation>
     </message>
+    <message>
+        <source> (from the file)</source>
+        <translation> (aus der Datei)</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
 </context>
 <context>
     <name>Settings</name>

@@ -38,4 +38,32 @@ TEST_F(Sheets, LeavingTheNameEmptyIsTold) {
   EXPECT_EQ(find("createStatus")->palette(), before);
 }
 
+/// Shows where a text was translated.
+class Brackets : public QTranslator {
+ public:
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char* context, const char* text, const char* /*note*/,
+                                  int /*count*/) const override {
+    return std::string(context) == "Items"
+               ? QLatin1Char('[') + QLatin1String(text) + QLatin1Char(']')
+               : QString();
+  }
+};
+
+TEST_F(Sheets, TextsOfTheCoreAreTranslatedWhereTheyAreShown) {
+  Brackets translator;
+  QCoreApplication::installTranslator(&translator);
+  open("frameskip Dynamic\n");
+  window->completePages();
+  EXPECT_EQ(find<QComboBox>("refreshRate")->currentText(),
+            QLatin1String("Dynamic[ (from the file)]"));
+  EXPECT_EQ(find<QComboBox>("refreshRate")->itemText(0), QLatin1String("[Dynamic]"));
+  click("bitCreate");
+  typeInto("createName", "a");
+  typeInto("createSize", "0");
+  EXPECT_EQ(find<QAbstractButton>("createImage")->text(), QLatin1String("[Create]"));
+  click("createImage");
+  EXPECT_EQ(find<QAbstractButton>("createImage")->text(), QLatin1String("[Done]"));
+}
+
 }  // namespace
