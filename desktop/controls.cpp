@@ -166,6 +166,7 @@ QComboBox* Controls::comboBox(platform::ComboBox& control, const QString& help) 
   guardWheel(box);
   box->setEditable(true);
   box->setInsertPolicy(QComboBox::NoInsert);
+  box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
   box->setMinimumContentsLength(12);
   if (control.completes()) {
     // The default, InlineCompletion, would put an entry into the field that nobody typed.
