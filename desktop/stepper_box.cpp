@@ -1,8 +1,6 @@
 #include "desktop/stepper_box.h"
 
 #include <QStyleOptionSpinBox>
-#include <algorithm>
-#include <cstdint>
 
 #include "desktop/texts.h"
 
@@ -20,21 +18,14 @@ void StepperBox::showState() {
 }
 
 void StepperBox::stepBy(int steps) {
-  const platform::Stepper::Range& range = stepper_.range();
-  const auto wanted = std::int64_t{stepper_.integerValue()} + std::int64_t{steps} * range.increment;
-  const auto value = std::clamp<std::int64_t>(wanted, range.minimum, range.maximum);
-  stepper_.edit([&] { stepper_.setIntegerValue(static_cast<std::int32_t>(value)); });
+  stepper_.edit([&] { stepper_.setIntegerValue(stepper_.valueAfter(steps)); });
   lineEdit()->selectAll();
 }
 
 QAbstractSpinBox::StepEnabled StepperBox::stepEnabled() const {
   StepEnabled enabled = StepNone;
-  if (stepper_.integerValue() < stepper_.range().maximum) {
-    enabled |= StepUpEnabled;
-  }
-  if (stepper_.integerValue() > stepper_.range().minimum) {
-    enabled |= StepDownEnabled;
-  }
+  enabled.setFlag(StepUpEnabled, stepper_.canStep(1));
+  enabled.setFlag(StepDownEnabled, stepper_.canStep(-1));
   return enabled;
 }
 

@@ -47,4 +47,13 @@ void ComboBox::enterText(std::string text) {
   changed();
 }
 
+std::int32_t Stepper::valueAfter(int steps) const {
+  if (wasOutside_) {
+    return value_;
+  }
+  const auto wanted = std::int64_t{value_} + std::int64_t{steps} * range_.increment;
+  return static_cast<std::int32_t>(
+      std::clamp<std::int64_t>(wanted, range_.minimum, range_.maximum));
+}
+
 }  // namespace platform

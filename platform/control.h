@@ -180,14 +180,23 @@ class Stepper : public Control {
 
   [[nodiscard]] const Range& range() const { return range_; }
   [[nodiscard]] std::int32_t integerValue() const { return value_; }
+  /// Whether an arrow, down if `steps` is negative, does anything.
+  [[nodiscard]] bool canStep(int steps) const { return wasOutside_ || valueAfter(steps) != value_; }
   /// Takes the number, or the end of the range that is next to it.
   void setIntegerValue(std::int32_t value) {
-    set(value_, std::clamp(value, range_.minimum, range_.maximum));
+    const std::int32_t end = std::clamp(value, range_.minimum, range_.maximum);
+    wasOutside_ = end != value;
+    set(value_, end);
   }
+
+  /// The number that so many presses of an arrow lead to, down if negative. From a number outside
+  /// the range, as a file may have it, any press leads to the end next to it.
+  [[nodiscard]] std::int32_t valueAfter(int steps) const;
 
  private:
   Range range_;
   std::int32_t value_;
+  bool wasOutside_ = false;
 };
 
 /// Shows that something is going on.

@@ -10,6 +10,30 @@ using document::Key;
 
 class Fields : public tests::WindowTest {};
 
+TEST_F(Fields, AnArrowLeadsIntoTheRangeFirst) {
+  struct Case {
+    const char* inFile;
+    Qt::Key arrow;
+    const char* first;
+    const char* second;
+  };
+  for (const Case& each :
+       {Case{"0", Qt::Key_Up, "1", "2"}, Case{"0", Qt::Key_Down, "1", "1"},
+        Case{"70000", Qt::Key_Up, "65535", "65535"}, Case{"70000", Qt::Key_Down, "65535", "65534"},
+        Case{"6066", Qt::Key_Up, "6067", "6068"}}) {
+    SCOPED_TRACE(each.inFile);
+    open(std::string("udpport ") + each.inFile + "\n");
+    window->completePages();
+    showTab("Network");
+    EXPECT_EQ(value(Key::udpport), each.inFile);
+    find("portUDP")->setFocus();
+    key(each.arrow);
+    EXPECT_EQ(value(Key::udpport), each.first);
+    key(each.arrow);
+    EXPECT_EQ(value(Key::udpport), each.second);
+  }
+}
+
 TEST_F(Fields, KeepTextsOfAnyLength) {
   const std::string text(40000, 'x');
   open("rom " + text + "\nether " + text + "\n");

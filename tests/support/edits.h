@@ -135,7 +135,7 @@ inline void perform(editor::ViewController& window, const Edit& edit) {
     } else if (auto* const button = dynamic_cast<platform::PopUpButton*>(&control)) {
       button->selectItem(*edit.chosen);
     } else if (auto* const stepper = dynamic_cast<platform::Stepper*>(&control)) {
-      stepper->setIntegerValue(stepper->integerValue() + edit.steps);
+      stepper->setIntegerValue(stepper->valueAfter(edit.steps));
     } else {
       dynamic_cast<platform::Button&>(control).setState(*edit.clicked);
     }
