@@ -97,8 +97,8 @@ std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPan
 }
 
 // Shows a dialog that tells the completion once and then goes away by itself.
-void begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
-           platform::Panels::Chosen completion) {
+QFileDialog* begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
+                   platform::Panels::Chosen completion) {
   QFileDialog* const dialog = owned.release();
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowModality(modality);
@@ -107,6 +107,7 @@ void begin(std::unique_ptr<QFileDialog> owned, Qt::WindowModality modality,
         completion(result == QDialog::Accepted ? locationsOf(*dialog) : std::vector<Location>());
       });
   dialog->show();
+  return dialog;
 }
 
 }  // namespace
@@ -131,7 +132,13 @@ std::vector<Location> Panels::runModal(const platform::OpenPanel& panel) {
 }
 
 void Panels::begin(const platform::OpenPanel& panel, Chosen completion) {
-  desktop::begin(makeDialog(front(), panel), Qt::NonModal, std::move(completion));
+  QPointer<QFileDialog>& open = open_[panel.asker];
+  if (open == nullptr || !open->isVisible()) {
+    open = desktop::begin(makeDialog(front(), panel), Qt::NonModal, std::move(completion));
+  }
+  open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
+  open->raise();
+  open->activateWindow();
 }
 
 void Panels::beginSheet(const platform::OpenPanel& panel, Chosen completion) {

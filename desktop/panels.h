@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QFileDialog>
+#include <QPointer>
 #include <QWidget>
+#include <map>
+#include <string>
 
 #include "platform/panels.h"
 
@@ -21,6 +25,7 @@ class Panels : public platform::Panels {
   [[nodiscard]] QWidget* front() const;
 
   QWidget* window_ = nullptr;
+  std::map<std::string, QPointer<QFileDialog>> open_;  // by who asked
 };
 
 }  // namespace desktop

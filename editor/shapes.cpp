@@ -135,6 +135,7 @@ FileButton::FileButton(std::string name, TextFieldSetting& setting, platform::Pa
 
 void FileButton::browse() {
   platform::OpenPanel panel;
+  panel.asker = button.name();
   panel.directory = folderOf(setting_.field.stringValue());
   panels_.begin(panel, [this](const std::vector<platform::Location>& chosen) {
     setting_.takeChosen(chosen);

@@ -11,6 +11,7 @@ namespace platform {
 
 /// How a panel for choosing existing files or folders is set up. None shows hidden files at first.
 struct OpenPanel {
+  std::string asker;  // the control that asks
   std::string title;
   bool canChooseFiles = true;
   bool canChooseDirectories = false;
@@ -45,7 +46,8 @@ class Panels {
   /// Shows the panel and returns only when the user has answered it.
   virtual std::vector<Location> runModal(const OpenPanel& panel) = 0;
 
-  /// Shows the panel beside the windows and returns at once.
+  /// Shows the panel beside the windows and returns at once. While the one of the same asker is
+  /// open, that comes to the front, and this completion never runs.
   virtual void begin(const OpenPanel& panel, Chosen completion) = 0;
 
   /// Shows the panel as a sheet of the settings window and returns at once.

@@ -38,6 +38,29 @@ TEST_F(Sheets, LeavingTheNameEmptyIsTold) {
   EXPECT_EQ(find("createStatus")->palette(), before);
 }
 
+TEST_F(Sheets, PressingBrowseAgainRaisesTheSameChooser) {
+  open();
+  desktop::Panels panels;
+  panels.setWindow(&*window);
+  int answers = 0;
+  const auto begin = [&](const char* asker) {
+    platform::OpenPanel panel;
+    panel.asker = asker;
+    panels.begin(panel, [&](const auto&) { ++answers; });
+    return window->findChildren<QFileDialog*>();
+  };
+  EXPECT_EQ(begin("browseROM").size(), 1);
+  EXPECT_EQ(begin("browseROM").size(), 1);
+  EXPECT_EQ(begin("rawKeyFileSelect").size(), 2);
+  for (QFileDialog* const dialog : window->findChildren<QFileDialog*>()) {
+    dialog->reject();
+  }
+  EXPECT_EQ(answers, 2);
+  const auto again = begin("browseROM");
+  EXPECT_TRUE(
+      std::any_of(again.begin(), again.end(), [](auto* each) { return each->isVisible(); }));
+}
+
 /// Shows where a text was translated.
 class Brackets : public QTranslator {
  public:
