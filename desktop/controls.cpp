@@ -8,6 +8,7 @@
 #include <limits>
 #include <utility>
 
+#include "desktop/file_drop.h"
 #include "desktop/status_line.h"
 #include "desktop/stepper_box.h"
 #include "desktop/texts.h"
@@ -157,6 +158,12 @@ QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help,
     }
     pending->settle();
   });
+  return field;
+}
+
+QLineEdit* Controls::pathField(platform::TextField& control, const QString& help) {
+  QLineEdit* const field = lineEdit(control, help);
+  takeDroppedFiles(field, [edit = QPointer(pendingEdits_.back().get())] { edit->endEditing(); });
   return field;
 }
 

@@ -42,7 +42,7 @@ void PageBuilder::row(editor::Setting& setting, const char* label, QWidget* widg
 
 void PageBuilder::field(editor::TextFieldSetting& setting, QWidget* button) {
   const QString text = translatedLabel(setting.label());
-  QWidget* const widget = controls_.lineEdit(setting.field, helpOf(setting));
+  QWidget* const widget = controls_.pathField(setting.field, helpOf(setting));
   auto* const line = new QHBoxLayout;
   line->addWidget(widget, 1);
   line->addWidget(button);
@@ -54,7 +54,7 @@ void PageBuilder::field(editor::TextFieldSetting& setting, QWidget* button) {
 }
 
 void PageBuilder::field(editor::TextFieldSetting& setting) {
-  row(setting, setting.label(), controls_.lineEdit(setting.field, helpOf(setting)));
+  row(setting, setting.label(), controls_.pathField(setting.field, helpOf(setting)));
 }
 
 void PageBuilder::choice(editor::PopUpSetting& setting) {

@@ -60,7 +60,7 @@ PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, Q
 
 QLayout* PreferencesWindow::locationRow() {
   auto* const row = new QHBoxLayout;
-  QLineEdit* const field = controls_.lineEdit(
+  QLineEdit* const field = controls_.pathField(
       controller_.Quillon,
       tr("The application that Start launches. \"Quillon\" must be part of the name."));
   field->setAccessibleName(tr("Location"));

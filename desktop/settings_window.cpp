@@ -151,7 +151,7 @@ QLayout* SettingsWindow::fileRow() {
   const QString help =
       tr("The preferences file that Save and Start write. Type another place to save to before the "
          "first save.");
-  auto* const field = controls_.lineEdit(controller_.filename_field, help);
+  auto* const field = controls_.pathField(controller_.filename_field, help);
   field->setPlaceholderText(controller_.preferences.prefsURL
                                 ? toQString(controller_.preferences.prefsURL->path())
                                 : QString());

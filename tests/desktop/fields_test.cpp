@@ -10,6 +10,33 @@ using document::Key;
 
 class Fields : public tests::WindowTest {};
 
+TEST_F(Fields, TakeTheFileThatIsDropped) {
+  struct Case {
+    QList<QUrl> dropped;
+    const char* shown;
+  };
+  const std::vector<Case> cases = {
+      {{QUrl::fromLocalFile(QLatin1String("/a b/%20.rom"))}, "/a b/%20.rom"},
+      {{QUrl::fromLocalFile(QLatin1String("/a")), QUrl::fromLocalFile(QLatin1String("/b"))},
+       "/old"},
+      {{QUrl(QLatin1String("https://host/a"))}, "/old"},
+      {{QUrl(QLatin1String("file://host/a"))}, "/old"},
+      {{QUrl::fromLocalFile(QLatin1String("/a\nramsize 1"))}, "/old"}};
+  for (const Case& each : cases) {
+    open("rom /old\n");
+    window->completePages();
+    QMimeData data;
+    data.setUrls(each.dropped);
+    data.setText(QLatin1String("what file managers add"));
+    const auto send = [&](auto event) { QApplication::sendEvent(find("romFile"), &event); };
+    const QPoint place(5, 5);
+    send(QDragEnterEvent(place, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
+    send(QDropEvent(place, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
+    EXPECT_EQ(find<QLineEdit>("romFile")->text().toStdString(), each.shown);
+    EXPECT_EQ(value(Key::rom), each.shown);
+  }
+}
+
 TEST_F(Fields, AnArrowLeadsIntoTheRangeFirst) {
   struct Case {
     const char* inFile;
