@@ -48,7 +48,7 @@ std::string emulatorPath() {
   if (!path.starts_with(root)) {
     return path;
   }
-  // A path that somebody typed may begin as the root does and mean what it says.
+  // A typed path may begin with the same text as pathToQuilRoot and exist as it stands.
   const bool isTyped = path != localEmulator() && platform::fileExists(path);
   return isTyped ? path : ownFolder() + path.substr(root.size());
 }

@@ -9,7 +9,7 @@
 namespace app {
 namespace {
 
-// A check box that is a flag of sharedVar; a mixed state says nothing.
+// A mixed state leaves the flag as it is.
 void takeState(const platform::Button& box, bool& flag) {
   if (box.state() != platform::State::mixed) {
     flag = box.isOn();
@@ -99,7 +99,7 @@ void prefsViewController::radioButtonChanged() {
     Quillon.setStringValue({});
     sharedVar::startState = true;
     sharedVar::startFlag = startLocal;
-    // What the next start-up would find, so that Start works right away.
+    // The folder alone could not be launched: Start would do nothing until the next run.
     sharedVar::pathToQuil = localEmulator();
     Quillon.setStringValue(sharedVar::pathToQuil);
     host_.output.print("PathToQuil? ", sharedVar::pathToQuil);
@@ -134,7 +134,6 @@ void prefsViewController::chooseApplication() {
   host_.panels.beginSheet(panel, answer);
 }
 
-// Launches whatever stands in the field, unchecked.
 void prefsViewController::launchTest() {
   if (Quillon.stringValue().empty()) {
     sharedVar::startFlag = startNone;

@@ -43,7 +43,8 @@ class prefsViewController {
   void finish();
 
   platform::Host host_;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // known to panels that stay open
+  // A panel may outlive this object: its answer looks here first.
+  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 
 }  // namespace app

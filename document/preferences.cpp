@@ -48,7 +48,7 @@ void Preferences::readFile() {
   prefsPath = prefsURL->path();
   output_.print(prefsURL->text());
   output_.print(prefsPath);
-  // Before the reading: what is written meanwhile counts as a change.
+  // Taken before the content is read: a write in between then shows as a change from outside.
   stamp_ = platform::stampOf(prefsPath);
   std::error_code error;
   if (auto text = platform::readTextFile(prefsPath, error)) {
@@ -164,7 +164,7 @@ void Preferences::noteSaved() {
 void Preferences::setLocation(std::string_view text) {
   if (!prefsURL || prefsURL->path() != text) {
     prefsURL = platform::Location::fromText(text);
-    // Nothing was read or written there yet.
+    // The stamp is that of the file at the former place.
     stamp_.reset();
     saveError_.clear();
   }

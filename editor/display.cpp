@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view windowType = "win";
 constexpr std::string_view fullScreenType = "dga";
-// The largest size there is: a word for people, a number in the file.
+// The largest size there is: "Maximum" in the lists, "0" in the file.
 constexpr std::string_view maximumWord = "Maximum";
 constexpr std::string_view maximumValue = "0";
 constexpr std::size_t maximumIndex = 4;

@@ -41,7 +41,7 @@ std::optional<std::int64_t> bytesOf(std::string_view megabytes) {
   return *count * bytesPerMegabyte;
 }
 
-// One behind the last where the pair stands in no row.
+// The number of rows when no row has the pair.
 std::size_t entryOfPair(std::string_view cpu, std::string_view fpu) {
   if (fpu != "false" && fpu != "true") {
     return 0;

@@ -63,7 +63,7 @@ std::vector<Change> SavedState::changes() const {
       continue;
     }
     const Setting& setting = settingOf(key);
-    // Each key of the processor's pair alone would be shown with the other one's present value.
+    // shownText() of one key of the pair uses the present value of the other key.
     const std::string was =
         sharesControl(key, Key::fpu)
             ? machine_.cpuType.shownPair(savedValue(Key::cpu), savedValue(Key::fpu))

@@ -91,7 +91,7 @@ class StepperSetting : public Setting {
   std::string_view echo_;
 };
 
-/// Stands behind a value of the file in the list of a setting that has no entry for it.
+/// Follows a value of the file for which a list has no entry of its own.
 inline constexpr std::string_view fromFile = platform::translatable("Items", " (from the file)");
 
 /// A value of which each stands for one entry of a list.

@@ -38,7 +38,7 @@ class BinaryList {
  private:
   static constexpr std::size_t unknown = SIZE_MAX;
 
-  // Big-endian; what lies outside reads as more than there can be.
+  // A big-endian number. An offset outside the content gives SIZE_MAX, which fails every check.
   [[nodiscard]] std::size_t number(std::size_t at, std::size_t size) const {
     if (size > 8 || at > content_.size() || size > content_.size() - at) {
       return SIZE_MAX;
@@ -50,7 +50,7 @@ class BinaryList {
     return value;
   }
 
-  // In bytes, with all that the object holds.
+  // The bytes that an object takes up when all objects inside it are written out.
   std::size_t sizeOf(std::size_t object) {
     if (object >= sizes_.size()) {
       return limit_ + 1;
@@ -60,7 +60,7 @@ class BinaryList {
         return limit_ + 1;
       }
       ++levels_;
-      sizes_[object] = 1;  // for an object within itself, which the library refuses
+      sizes_[object] = 1;  // ends the recursion for an object within itself; libplist refuses it
       sizes_[object] = measure(number(table_ + object * offsetSize_, offsetSize_));
       --levels_;
     }
@@ -77,7 +77,7 @@ class BinaryList {
     return false;
   }
 
-  // Within some 1,900 years of 2001, where counting begins.
+  // Dates count from 2001. Beyond some 1,900 years libplist's conversion to a calendar date aborts.
   [[nodiscard]] bool isInCalendar(std::size_t at) const {
     constexpr double longest = 6e10;  // seconds
     const auto seconds = std::bit_cast<double>(std::uint64_t{number(at, 8)});

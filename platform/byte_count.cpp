@@ -65,7 +65,7 @@ std::string ByteCountFormatter::stringFromByteCount(std::int64_t bytes) const {
   std::size_t unit = 0;
   std::uint64_t divisor = 1;
   Count count = quotient(magnitude, divisor, units[unit].fractionDigits);
-  // A count that rounds to a whole next unit is written in that one.
+  // 999,950 bytes round to 1000 KB: such a count is written as 1 MB.
   while (count.whole >= base && unit + 1 < units.size()) {
     ++unit;
     divisor *= base;

@@ -22,7 +22,7 @@ Descriptor Descriptor::openRegular(const std::string& path, int flags, std::erro
   }));
   if (!opened.isOpen()) {
     error = lastError();
-    // A pipe without a reader answers as if it were a missing device.
+    // open() of a FIFO without a reader fails with ENXIO, "no such device", which would mislead.
     if (error == std::errc::no_such_device_or_address) {
       error = std::make_error_code(std::errc::operation_not_supported);
     }
@@ -57,7 +57,7 @@ std::optional<std::string> Descriptor::read(std::size_t count, std::error_code& 
       return std::nullopt;
     }
     filled += static_cast<std::size_t>(got);
-    // Asking for more at the known end would be a call for nothing.
+    // fstat() told the size: one more read() at the end would only return 0.
     if (got == 0 || filled == size_) {
       break;
     }
@@ -68,7 +68,8 @@ std::optional<std::string> Descriptor::read(std::size_t count, std::error_code& 
 
 std::error_code Descriptor::close() {
   const int number = std::exchange(number_, -1);
-  // An interrupted close has closed all the same; trying again could close somebody else's file.
+  // On Linux close() closes even when it fails with EINTR. A second try could close a descriptor
+  // that another thread has opened meanwhile.
   if (number >= 0 && ::close(number) != 0 && errno != EINTR) {
     return lastError();
   }

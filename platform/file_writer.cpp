@@ -16,8 +16,8 @@
 namespace platform {
 namespace {
 
-// One call for an image's worth of zeros is several times slower: the kernel then maps the zeros
-// page by page.
+// Writing a whole image of zeros by one write() is several times slower: the kernel then maps the
+// source page by page.
 constexpr std::size_t stepLength = std::size_t{1} << 20U;
 
 // What a file system answers that cannot do a thing at all. The steps that follow have to tell
@@ -39,7 +39,7 @@ std::error_code checkSizeLimit(std::size_t length) {
 std::error_code checkFreeSpace(int descriptor, std::size_t length) {
   struct statvfs disk {};
   struct stat status {};
-  // Some network file systems tell no size.
+  // Some network file systems report a block size of 0, which would divide by zero below.
   if (::fstatvfs(descriptor, &disk) != 0 || ::fstat(descriptor, &status) != 0 ||
       disk.f_blocks == 0 || disk.f_frsize == 0) {
     return {};
@@ -88,7 +88,7 @@ std::string linkTarget(const std::string& path) {
 
 FileWriter FileWriter::openOrCreate(const std::string& path) {
   FileWriter writer;
-  // A second attempt is for a file that appears between the two calls of the first.
+  // A file may appear between the open() that found none and the one that creates it exclusively.
   for (int attempt = 0; attempt < 2; ++attempt) {
     writer.path_ = path;
     writer.open(O_RDWR);
@@ -200,7 +200,7 @@ std::error_code FileWriter::finish() {
   const std::error_code closing = file_.close();
   error_ = error_ ? error_ : closing;
   if (error_ && isNew_) {
-    // An empty file would be read as one without settings: none at all is better.
+    // The next start would read an empty file as one in which every setting has its default.
     ::unlink(path_.c_str());
   }
   return error_;

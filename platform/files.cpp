@@ -64,7 +64,7 @@ std::optional<std::string> readFile(const std::string& path, std::error_code& er
     if (expected == limit) {
       break;
     }
-    // Files that the system makes up tell no size.
+    // fstat() reports size 0 for files under /proc and /sys, whatever they hold.
     expected = std::min<std::uintmax_t>(2 * expected + 1, limit);
   }
   error = std::make_error_code(std::errc::file_too_large);

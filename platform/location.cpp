@@ -53,7 +53,8 @@ std::string_view schemeOf(std::string_view text) {
   return text.substr(0, static_cast<std::size_t>(end - text.begin()) + 1);
 }
 
-// Behind the scheme and the host. A file has neither a query nor a fragment: both are path here.
+// What follows the scheme and the host. "?" and "#" can stand in a file's name, so that neither
+// ends the path.
 std::string_view encodedPath(std::string_view text) {
   text.remove_prefix(schemeOf(text).size());
   if (text.starts_with("//")) {
@@ -74,7 +75,7 @@ Location Location::fromPath(std::string_view path) {
   if (path.starts_with('/')) {
     return Location(std::string(filePrefix) + encoded);
   }
-  // Before the first "/" of a relative location a colon would end a scheme.
+  // "a:b/c" would be read as the scheme "a" (RFC 3986, section 4.2).
   for (auto at = encoded.find(':'); at < encoded.find('/'); at = encoded.find(':', at)) {
     encoded.replace(at, 1, "%3A");
   }

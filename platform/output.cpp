@@ -20,8 +20,8 @@ constexpr milliseconds longestPatience(2000);
 constexpr milliseconds pauseLength(10);
 constexpr std::size_t gatheredSize = std::size_t{64} << 10U;  // bytes
 
-// A terminal may poll writable and still make a writer wait. Opened once more it can be written to
-// without waiting, which leaves it as it is for the programs that share it.
+// poll() may call a terminal writable whose write() then blocks (after Ctrl+S). O_NONBLOCK on our
+// own second descriptor prevents that; set on the first one it would apply to the shell as well.
 Descriptor openTerminal(int descriptor) {
   if (::isatty(descriptor) == 0) {
     return Descriptor();
@@ -41,7 +41,7 @@ void BufferOutput::write(std::initializer_list<std::string_view> parts) {
 DescriptorOutput::DescriptorOutput(int descriptor)
     : descriptor_(descriptor), terminal_(openTerminal(descriptor)), patience_(longestPatience) {
   struct stat status {};
-  // The null device takes everything at once, whatever its size; a file never makes a writer wait.
+  // write() to a regular file or to /dev/null never blocks: no poll() is needed before it.
   mayBlock_ = ::fstat(descriptor, &status) == 0 && !S_ISREG(status.st_mode) &&
               !(S_ISCHR(status.st_mode) && ::isatty(descriptor) == 0);
 }
@@ -59,7 +59,7 @@ void DescriptorOutput::write(std::initializer_list<std::string_view> parts) {
     return;
   }
   room_ -= size;
-  // One line is best sent in one piece: other processes may write to the same stream.
+  // A write() of up to PIPE_BUF bytes is atomic: lines of other processes do not get in between.
   for (const std::string_view part : parts) {
     const bool isLong = part.size() > PIPE_BUF;
     if (isLong || waiting_.size() + part.size() > (gathering_ ? gatheredSize : PIPE_BUF)) {
@@ -108,7 +108,7 @@ void DescriptorOutput::send(std::string_view part) {
       broken_ = true;
       return;
     }
-    // A pipe that polls writable takes this many bytes without waiting.
+    // After poll() says writable, a pipe takes PIPE_BUF bytes without blocking (POSIX).
     const std::size_t length =
         mayBlock_ ? std::min<std::size_t>(part.size(), PIPE_BUF) : part.size();
     const ssize_t written = retried([&] { return ::write(target.fd, part.data(), length); });

@@ -17,7 +17,8 @@ constexpr std::size_t sizeLimit = std::size_t{64} * 1024;
 constexpr std::size_t expandedLimit = std::size_t{1024} * 1024;
 constexpr std::size_t mostLevels = 64;  // of dictionaries and arrays within each other
 
-// A binary list can, and then reads otherwise once it has been written as XML.
+// A binary list can hold a key twice. libplist then reads another of the two values after the list
+// has been written as XML.
 bool holdsAKeyTwice(plist_t dictionary) {
   plist_dict_iter position = nullptr;
   plist_dict_new_iter(dictionary, &position);
@@ -136,7 +137,8 @@ void PropertyList::set(const std::string& key, bool value) {
 }
 
 void PropertyList::set(const std::string& key, std::int64_t value) {
-  // The library makes unsigned numbers only: a negative one that was read is left as it stands.
+  // plist_new_uint() is all that libplist 2.2 has: set again, a negative number would become a huge
+  // positive one.
   if (integer(key) != value) {
     plist_dict_set_item(root_.get(), key.c_str(),
                         plist_new_uint(static_cast<std::uint64_t>(value)));
@@ -148,7 +150,7 @@ std::optional<std::string> PropertyList::xml() const {
   std::uint32_t length = 0;
   plist_to_xml(root_.get(), &text, &length);
   const PlistText owned(text);
-  // What could not be read again is better not written.
+  // read() refuses more than this: all settings would be lost at the next start.
   return text != nullptr && length <= sizeLimit
              ? std::optional<std::string>(std::in_place, text, length)
              : std::nullopt;

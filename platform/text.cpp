@@ -62,8 +62,7 @@ bool isUtf8(std::string_view bytes) {
 }
 
 std::string_view dropCharacters(std::string_view text, std::size_t count) {
-  // Nearly every line is plain ASCII so far, where a character is a byte: only a carriage return
-  // and a line feed make one together.
+  // In ASCII each byte is a character, but for CR LF, which is one grapheme cluster.
   const std::string_view start = text.substr(0, std::min(count, text.size()) + 1);
   if (std::all_of(start.begin(), start.end(), isAscii) && start.find('\r') == start.npos) {
     return text.substr(std::min(count, text.size()));

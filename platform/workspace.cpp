@@ -46,7 +46,7 @@ void reportFailure(const Start& start) {
 }
 
 [[noreturn]] void runApplication(const Start& start) {
-  // What must not end us ends most programs: an ignored signal would be inherited.
+  // main() ignores these two signals, and an ignored signal stays ignored across execv().
   ::signal(SIGPIPE, SIG_DFL);
   ::signal(SIGXFSZ, SIG_DFL);
   const int input = ::open("/dev/null", O_RDONLY);
@@ -96,8 +96,8 @@ bool startDetached(std::vector<std::string> command, const std::string& folder) 
     ::_exit(0);
   }
   writing.close();
-  // The child's status says nothing that the pipe does not, and there is none when we were started
-  // with SIGCHLD ignored.
+  // The result is not looked at: with SIGCHLD ignored by our parent waitpid() fails with ECHILD,
+  // and the pipe tells of a failure in any case.
   retried([&] { return ::waitpid(child, nullptr, 0); });
   char failed = 0;
   return retried([&] { return ::read(reading.get(), &failed, 1); }) == 0;

@@ -13,7 +13,8 @@
 namespace program {
 namespace {
 
-// A path may hold anything: neither a line nor a terminal is to be taken in by it.
+// A path may hold line feeds, which would fake further findings, and escape sequences, which a
+// terminal would carry out.
 std::string onOneLine(const std::string& text) {
   constexpr std::string_view digits = "0123456789abcdef";
   std::string line;

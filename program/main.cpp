@@ -14,7 +14,8 @@
 
 namespace {
 
-// A file opened in the place of a closed standard stream would get the diagnostics.
+// If standard output is closed, the next file that is opened becomes descriptor 1, and the
+// diagnostics would be written into it: the preferences file, say.
 void openStandardStreams() {
   for (int number = 0; number <= STDERR_FILENO; ++number) {
     if (::fcntl(number, F_GETFD) == -1) {
@@ -49,7 +50,8 @@ std::string configHome(const std::string& home) {
 
 int main(int argc, char** argv) {
   openStandardStreams();
-  // A reader that went away and a limit on file sizes are errors to report, not reasons to end.
+  // SIGPIPE (a reader that went away) and SIGXFSZ (a limit on file sizes) would end the program in
+  // the middle of a save. Ignored, write() fails with EPIPE or EFBIG instead.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
 

@@ -32,11 +32,11 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
     return fail("Start is disabled; choose where Quillon is in the preferences");
   }
   const std::string unread = controller.preferences.readError();
-  // Saving would put defaults in the place of what is in the file, with nobody seeing it.
+  // All values are defaults then: saving would replace the file's content without anybody seeing
+  // it.
   const auto result =
-      unread.empty()
-          ? controller.saveAndLaunch()
-          : editor::StartResult{false, workspace.launchApplication(app::emulatorPath())};
+      unread.empty() ? controller.saveAndLaunch()
+                     : editor::StartResult{false, workspace.launchApplication(app::emulatorPath())};
   if (result.saved && result.launched) {
     return 0;
   }

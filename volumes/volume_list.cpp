@@ -13,8 +13,8 @@ constexpr std::string_view diskPrefix = "disk ";
 constexpr std::string_view imageKind = "Disk Image";
 constexpr std::string_view missingKind = "Not Found!";
 
-// A list as it is printed, grown item by item: each entry prints all lists as they are by then, and
-// composing them anew every time would take far longer than writing them.
+// A list as it is printed. Loading prints all lists after each entry: composing the texts anew each
+// time would take longer than writing them.
 class PrintedList {
  public:
   void add(std::string_view item) { text_.append(text_.size() > 1 ? ", " : "").append(item); }
