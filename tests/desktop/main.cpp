@@ -8,6 +8,7 @@
 #include <csignal>
 
 #include "desktop/run.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -59,6 +60,10 @@ int main(int argc, char** argv) {
   if (argc > 4 && std::string_view(argv[1]) == "--run") {
     return runProgram(argc, argv);
   }
+  // Qt keeps settings of its own in the home folder.
+  const tests::TemporaryFolder home;
+  qputenv("HOME", home.path().c_str());
+  qunsetenv("XDG_CONFIG_HOME");
   const QApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

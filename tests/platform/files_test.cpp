@@ -10,7 +10,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::ptrdiff_t openDescriptors() {
+  return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+}
+
 struct FilesTest : ::testing::Test {
+  ~FilesTest() override { EXPECT_EQ(openDescriptors(), before) << "one is left open"; }
+
+  std::ptrdiff_t before = openDescriptors();
   tests::TemporaryFolder folder;
   std::error_code error;
 };

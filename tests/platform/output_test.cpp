@@ -41,7 +41,9 @@ TEST(DescriptorOutput, GatheredLinesKeepTheirOrderAndAreAllThere) {
   DescriptorOutput output(ends[1]);
   for (const bool gathers : {true, false}) {
     std::optional<Output::Gathering> gathering;
-    gathers ? (void)gathering.emplace(output) : void();
+    if (gathers) {
+      gathering.emplace(output);
+    }
     for (const std::size_t size : {5U, 9000U, 20U, 4096U, 4090U, 0U, 3U}) {
       output.print(std::string(size, static_cast<char>('a' + size % 26)), "!");
       wanted += std::string(size, static_cast<char>('a' + size % 26)) + "!\n";
@@ -50,7 +52,8 @@ TEST(DescriptorOutput, GatheredLinesKeepTheirOrderAndAreAllThere) {
   std::string found(wanted.size() + 1, ' ');
   found.resize(static_cast<std::size_t>(::read(ends[0], found.data(), found.size())));
   EXPECT_EQ(found, wanted);
-  ::close(ends[0]), ::close(ends[1]);
+  ::close(ends[0]);
+  ::close(ends[1]);
 }
 
 }  // namespace platform

@@ -124,7 +124,7 @@ void eachFault(Calls calls, const std::function<void(const Fault&)>& body) {
         for (bool struck = true; struck && due <= last; ++due) {
           SCOPED_TRACE(std::string(name) + " " + std::to_string(due) + ": " +
                        strerrorname_np(error) + (halves ? ", halves" : ""));
-          body(Fault{name, error, due, extent, nullptr, 0, halves});
+          body({.call = name, .error = error, .due = due, .extent = extent, .halves = halves});
           struck = std::exchange(fault(), Fault()).seen >= due;
         }
         EXPECT_GT(due, last == 1 ? 1 : 2) << name << " is never called";
@@ -292,8 +292,12 @@ TEST(Faults, WhatChangesBetweenCheckAndUseIsNoticed) {
     SCOPED_TRACE(row.change);
     Save save(fileWith(2));
     const std::string path = save.host.home.path(FakeHost::prefs);
-    const auto change = [&] { fault().call = {}, fs::remove(path), row.make(path); };
-    EXPECT_EQ(save.with({"open", 0, 1, Fault::once, change, 0, false}), row.saved);
+    const auto change = [&] {
+      fault().call = {};
+      fs::remove(path);
+      row.make(path);
+    };
+    EXPECT_EQ(save.with({.call = "open", .due = 1, .change = change}), row.saved);
     EXPECT_TRUE(!row.saved || save.host.home.read(FakeHost::prefs) == save.wanted);
   }
 }

@@ -6,8 +6,7 @@
 . "$(dirname "$0")/check.sh"
 performer=$2
 cp -R "$3" "$work/Quillon.app"
-export HOME=$work QUILLON_STAND_IN_REPORT=$work/report
-unset XDG_CONFIG_HOME DISPLAY WAYLAND_DISPLAY
+export QUILLON_STAND_IN_REPORT=$work/report
 prefs=$HOME/.quillon_prefs
 bundle=$work/QuillonSettings.app
 

@@ -44,40 +44,15 @@ struct Model {
 
   std::string& operator[](Key key) { return values.at(document::indexOf(key)); }
 
-  [[nodiscard]] std::vector<std::string> lines() const {
-    std::vector<std::string> all;
-    for (const std::string& disk : disks) {
-      all.push_back("disk " + disk);
-    }
-    for (std::size_t index = 0; index < values.size(); ++index) {
-      all.push_back(std::string(document::prefs.at(index)) + values.at(index));
-    }
-    return all;
-  }
-
   [[nodiscard]] std::string text() const {
     std::string text;
-    for (const std::string& line : lines()) {
-      text += line + "\n";
-    }
-    return text;
-  }
-
-  /// Whether each key is found in its own line again, as it is unless a path or another value
-  /// holds the key's text, and with the same value; and no path can lose another slash.
-  [[nodiscard]] bool isUnambiguous() const {
-    const auto all = lines();
     for (const std::string& disk : disks) {
-      if (disk.size() > 1 && disk.back() == '/') {
-        return false;
-      }
+      text += "disk " + disk + "\n";
     }
     for (const document::KeyRow& row : document::keyTable) {
-      if (found(all, row) != values.at(document::indexOf(row.key))) {
-        return false;
-      }
+      text += std::string(row.text) + values.at(document::indexOf(row.key)) + "\n";
     }
-    return true;
+    return text;
   }
 
   /// Sets the type, the width or the height, and leaves the others.

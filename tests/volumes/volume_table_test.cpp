@@ -63,17 +63,13 @@ TEST_F(VolumeTableTest, DropsRowsAboveARow) {
     VolumeTable table(host.output, host.panels);
     load(table, "ABCDE");
     table.tableView.selectRows({3, 1});
+    EXPECT_EQ(table.validateDrop(platform::DropOperation::on), platform::DragOperation::none);
+    EXPECT_EQ(table.validateDrop(platform::DropOperation::above), platform::DragOperation::move);
     EXPECT_TRUE(table.acceptDrop(items, above));
     EXPECT_EQ(orderOf(table), order);
     EXPECT_EQ(table.tableView.selectedRows(), selected);
     EXPECT_FALSE(table.viewFor(std::nullopt, 0)) << "it asks so after a drop, and reloads";
   }
-}
-
-TEST_F(VolumeTableTest, TakesDropsBetweenRowsOnly) {
-  const VolumeTable table(host.output, host.panels);
-  EXPECT_EQ(table.validateDrop(platform::DropOperation::above), platform::DragOperation::move);
-  EXPECT_EQ(table.validateDrop(platform::DropOperation::on), platform::DragOperation::none);
 }
 
 TEST_F(VolumeTableTest, AddsWhatIsChosen) {
@@ -108,24 +104,18 @@ TEST_F(VolumeTableTest, AddsWhatIsChosen) {
 TEST_F(VolumeTableTest, ReadsTheListThatTheMarkTells) {
   VolumeTable table(host.output, host.panels);
   load(table, "A");
-  EXPECT_TRUE(table.ronMode.isOn());
-  struct Row {
-    platform::State state;
-    std::string said;
-    std::string cell;
-  };
-  for (const auto& [state, said, cell] : std::initializer_list<Row>{
-           {.state = platform::State::off, .said = "0\nronMode off\n", .cell = "volRegular"},
-           {.state = platform::State::mixed, .said = "-1\n", .cell = "volRegular"},
-           {.state = platform::State::on, .said = "1\nronMode on\n", .cell = "volLocal"}}) {
+  const auto expectAfter = [&](platform::State state, const std::string& said) {
     const std::size_t before = table.tableView.revision();
     table.ronMode.setState(state);
     table.ronMode.sendAction();
-    EXPECT_EQ(host.said(), said);
-    EXPECT_EQ(table.tableView.revision() - before, state == platform::State::mixed ? 0U : 1U);
+    EXPECT_EQ(table.tableView.revision() != before, state != platform::State::mixed);
     table.viewFor(1, 0);
-    EXPECT_EQ(host.said(), "loCalmode " + cell + "\n" + at("A").text() + "\n");
-  }
+    EXPECT_EQ(host.said(), said + "\n" + at("A").text() + "\n");
+  };
+  EXPECT_TRUE(table.ronMode.isOn());
+  expectAfter(platform::State::off, "0\nronMode off\nloCalmode volRegular");
+  expectAfter(platform::State::mixed, "-1\nloCalmode volRegular");
+  expectAfter(platform::State::on, "1\nronMode on\nloCalmode volLocal");
 }
 
 TEST_F(VolumeTableTest, OnlyTellsThePlaceOfTheSavePanel) {
