@@ -16,7 +16,8 @@ std::string savedOver(const std::string& file) {
   host.home.write(FakeHost::prefs, file);
   editor::ViewController window(host.host());
   window.viewDidLoad();
-  check(window.saved.changedKeys().empty() && !window.saved.volumesChanged(), "opening changes nothing");
+  check(window.saved.changedKeys().empty() && !window.saved.volumesChanged(),
+        "opening changes nothing");
   check(window.savePrefsAny(), "the file is written");
   const volumes::VolumeList& list = window.volumes.volumes();
   check(list.volName() == list.volLocal(), "two lists of the same locations");
