@@ -37,7 +37,7 @@ installMissing "${packages[@]}"
 (
   cd "$root"
   # A folder that was configured with the tests stays so: GoogleTest is there then.
-  [ -e build/release/build.ninja ] || configure -DQUILLON_TESTS=OFF
+  [ -e build/release/build.ninja ] || configure build/release -DQUILLON_TESTS=OFF
   quietly cmake --build build/release --target quillon-settings
 )
 bundle=$root/build/release/QuillonSettings.app

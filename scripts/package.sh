@@ -7,8 +7,8 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 
 build=build/release
 program=$build/QuillonSettings.app/Contents/MacOS/quillon-settings
-desktopEntry=resources/desktop/org.quillon.Settings.desktop
-metainfo=resources/desktop/org.quillon.Settings.metainfo.xml
+desktopEntry=resources/desktop/org.quillon.settings.desktop
+metainfo=resources/desktop/org.quillon.settings.metainfo.xml
 manual=packaging/quillon-settings.1
 
 fail() {
@@ -39,8 +39,8 @@ checkVersions() {
 }
 
 installMissing "${buildPackages[@]}" dpkg-dev file lintian desktop-file-utils appstream man-db
-[ -e $build/build.ninja ] || configure -DQUILLON_TESTS=OFF
-configure -DQUILLON_HARDENING=ON
+[ -e $build/build.ninja ] || configure $build -DQUILLON_TESTS=OFF
+configure $build -DQUILLON_HARDENING=ON
 quietly cmake --build $build --target quillon-settings manuals
 checkTexts
 

@@ -1,13 +1,22 @@
 # shellcheck shell=bash disable=SC2034  # the lists are for those who source this
-# What the commands at the root need of Debian 12, and the way to get it.
+# What the commands at the root need of Debian 12 and later, and the way to get it.
 
-buildPackages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-tools-dev qt6-l10n-tools
-  qt6-wayland qt6-translations-l10n libplist-dev libutf8proc-dev)
+libraryPackages=(cmake ninja-build pkg-config libplist-dev libutf8proc-dev)
+coreTestPackages=(g++ "${libraryPackages[@]}" libgtest-dev)
+buildPackages=(g++ "${libraryPackages[@]}" qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-wayland
+  qt6-translations-l10n)
 testPackages=("${buildPackages[@]}" libgtest-dev xvfb dbus-daemon at-spi2-core python3-gi
   gir1.2-atspi-2.0)
 displayPackages=(xvfb xdotool imagemagick)
 checkPackages=(clang-format clang-tidy shellcheck)
-fuzzPackages=(clang libclang-rt-14-dev cmake ninja-build pkg-config libplist-dev libutf8proc-dev)
+fuzzPackages=(clang "${libraryPackages[@]}")
+
+# The package with the sanitizers of the installed clang; it has the version in its name.
+clangRuntime() {
+  local version
+  version=$(clang -dumpversion)
+  echo "libclang-rt-${version%%.*}-dev"
+}
 
 # Runs a command and shows what it wrote only when it failed.
 quietly() {
@@ -19,10 +28,11 @@ quietly() {
   return "$status"
 }
 
-# configure OPTION...: prepares build/release. It asks for no preset, with which warnings are errors:
-# nobody has tried all compilers. A folder that was prepared by a preset keeps what that has set.
+# configure FOLDER OPTION...: prepares a folder for a build. It asks for no preset, with which
+# warnings are errors: nobody has tried all compilers. A folder that was prepared by a preset keeps
+# what that has set.
 configure() {
-  quietly cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=Release "$@"
+  quietly cmake -S . -B "$1" -G Ninja -DCMAKE_BUILD_TYPE=Release "${@:2}"
 }
 
 isInstalled() {
