@@ -15,6 +15,9 @@ set_target_properties(quillon-settings PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${con
 configure_file(resources/Info.plist.in ${contents}/Info.plist @ONLY)
 # Copied by name and only when they changed: the program keeps its own settings among them.
 set(resources Prefs.plist HappyMac.png HappyMac@2x.png)
+foreach(size 16 32 64 128)
+  list(APPEND resources icons/quillon-settings-${size}.png)
+endforeach()
 foreach(resource ${resources})
   add_custom_command(
     OUTPUT ${contents}/Resources/${resource}

@@ -5,13 +5,17 @@
 #include <QVBoxLayout>
 
 #include "app/emulator_location.h"
-#include "desktop/plain_text.h"
 #include "desktop/texts.h"
+#include "platform/byte_count.h"
 
 namespace desktop {
 
-CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent)
-    : QDialog(parent), controller_(output), controls_(edits) {
+CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folder, Edits& edits,
+                         QWidget* parent)
+    : QDialog(parent),
+      controller_(host.output, host.panels, folder),
+      controls_(edits),
+      folderNote_(new StatusLine) {
   setObjectName(QLatin1String("createSheet"));
   setWindowTitle(tr("New Blank Image"));
   setWindowModality(Qt::WindowModal);
@@ -28,10 +32,7 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   size->setAccessibleName(tr("Size in megabytes"));
   size->setPlaceholderText(QLatin1String("100"));
   form->addRow(tr("&Size (MB):"), size);
-  QLabel* const place = plainLabel(toQString(app::ownFolder()));
-  place->setWordWrap(true);
-  place->setAlignment(leadingSide() | Qt::AlignVCenter);
-  form->addRow(tr("Folder:"), place);
+  addFolder(*form);
 
   QPushButton* const create = controls_.pushButton(
       controller_.createImage, QString(), tr("Makes the image, and then closes this sheet."));
@@ -53,7 +54,49 @@ CreateSheet::CreateSheet(platform::Output& output, Edits& edits, QWidget* parent
   setMinimumWidth(33 * fontMetrics().lineSpacing());
 
   controller_.dismiss = [this] { close(); };
+  controller_.showFolder = [this] { showFolder(); };
   controller_.viewWillAppear();
+}
+
+void CreateSheet::addFolder(QFormLayout& form) {
+  QLineEdit* const path =
+      controls_.lineEdit(controller_.imageFolder, tr("The folder that the image file goes to."));
+  path->setAccessibleName(tr("Folder"));
+  QPushButton* const choose =
+      controls_.pushButton(controller_.chooseImageFolder, tr("C&hoose…"),
+                           tr("Chooses the folder for this and later images, until you quit."));
+  choose->setAutoDefault(false);
+  auto* const row = new QHBoxLayout;
+  row->addWidget(path, 1);
+  row->addWidget(choose);
+  auto* const label = new QLabel(tr("&Folder:"));
+  label->setBuddy(path);
+  form.addRow(label, row);
+  folderNote_->setObjectName(QLatin1String("imageFolderNote"));
+  form.addRow(QString(), folderNote_);
+}
+
+void CreateSheet::showFolder() {
+  using Place = volumes::ImageFolder::Place;
+  const volumes::ImageFolder::State& folder = controller_.folderState();
+  QStringList sentences;
+  if (!folder.isWritable) {
+    sentences += tr("You cannot write to this folder. Please choose another one.");
+  }
+  if (folder.place == Place::dataFolder) {
+    sentences +=
+        tr("Images go here because you cannot write to the folder of this program, \"%1\".")
+            .arg(toQString(app::ownFolder()));
+  }
+  if (folder.freeBytes) {
+    // In the units of the size field.
+    platform::ByteCountFormatter formatter;
+    formatter.countStyle = platform::ByteCountFormatter::CountStyle::memory;
+    const auto bytes = static_cast<std::int64_t>(*folder.freeBytes);
+    sentences += tr("Free space: %1").arg(toQString(formatter.stringFromByteCount(bytes)));
+  }
+  folderNote_->show(sentences.join(QLatin1Char('\n')),
+                    folder.isWritable ? platform::TextColor::gray : platform::TextColor::red);
 }
 
 QLayout* CreateSheet::progressRow() {

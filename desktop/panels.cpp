@@ -70,7 +70,8 @@ class AnyDialog : public QFileDialog {
 
 template <typename Dialog = QFileDialog>
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
-  auto dialog = std::make_unique<Dialog>(window, toQString(title));
+  auto dialog =
+      std::make_unique<Dialog>(window, QCoreApplication::translate("Panels", title.c_str()));
   // Qt's own dialog matches endings without regard to case; those of some desktops do not.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   keepMessagesPlain(dialog.get());

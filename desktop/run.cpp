@@ -33,7 +33,7 @@ void translate(QTranslator& translator, const char* name, const QString& folder)
 
 int run(int& argc, char** argv, const Surroundings& surroundings) {
   const QApplication qt(argc, argv);
-  QApplication::setDesktopFileName(QLatin1String("org.quillon.Settings"));
+  QApplication::setDesktopFileName(QLatin1String("org.quillon.settings"));
   QApplication::setApplicationName(QLatin1String("quillon-settings"));
   QApplication::setApplicationVersion(QLatin1String(surroundings.version));
 
@@ -50,6 +50,7 @@ int run(int& argc, char** argv, const Surroundings& surroundings) {
   platform::NotificationCenter notifications;
   const platform::Host host{surroundings.homeDirectory,
                             surroundings.configHome,
+                            surroundings.dataHome,
                             surroundings.bundle,
                             surroundings.output,
                             panels,

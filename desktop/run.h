@@ -11,6 +11,7 @@ namespace desktop {
 struct Surroundings {
   std::string homeDirectory;
   std::string configHome;
+  std::string dataHome;
   platform::Bundle bundle;
   platform::Output& output;
   const char* version;

@@ -102,6 +102,17 @@ void SettingsWindow::fillPage(editor::TabId id) {
   help_->follow(page);
 }
 
+// Where no desktop entry tells it, as on X11 or from the archive. Reading pictures takes time that
+// the first paint should not have to wait for.
+void SettingsWindow::showIcon() const {
+  QIcon icon;
+  for (const char* const size : {"16", "32", "64", "128"}) {
+    icon.addFile(
+        toQString(host_.bundle.resource(std::string("icons/quillon-settings-") + size + ".png")));
+  }
+  QApplication::setWindowIcon(icon);
+}
+
 void SettingsWindow::completePages() {
   if (std::exchange(pagesComplete_, true)) {
     return;
@@ -119,6 +130,7 @@ void SettingsWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
   if (!pagesComplete_) {
     QTimer::singleShot(0, this, &SettingsWindow::completePages);
+    QTimer::singleShot(0, this, &SettingsWindow::showIcon);
   }
 }
 
@@ -299,7 +311,7 @@ void SettingsWindow::openAgreement() {
 }
 
 void SettingsWindow::openCreation() {
-  (new CreateSheet(host_.output, controls_.edits(), this))->open();
+  (new CreateSheet(host_, imageFolder_, controls_.edits(), this))->open();
 }
 
 void SettingsWindow::tellAbout() {

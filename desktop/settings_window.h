@@ -15,6 +15,7 @@
 #include "desktop/setting_widgets.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
+#include "volumes/image_folder.h"
 
 namespace desktop {
 
@@ -45,6 +46,7 @@ class SettingsWindow : public QMainWindow {
   void goTo(const SettingWidget& place);
   [[nodiscard]] int tabOf(const SettingWidget& place) const;
   void showStart(QPushButton* button);
+  void showIcon() const;
   void openPreview();
   void resetPage();
   void guardStart();
@@ -55,6 +57,7 @@ class SettingsWindow : public QMainWindow {
 
   editor::ViewController& controller_;
   platform::Host host_;
+  volumes::ImageFolder imageFolder_{host_.dataHome};
   Controls controls_;
   platform::Window delegate_;
   QTabWidget* tabs_;

@@ -15,6 +15,7 @@ namespace platform {
 struct Host {
   std::string homeDirectory;  // as the user's session gives it
   std::string configHome;     // where programs keep settings that cannot stay in their bundle
+  std::string dataHome;       // where programs keep a person's data
   Bundle bundle;              // the front-end's own
   Output& output;
   Panels& panels;

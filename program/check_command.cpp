@@ -38,8 +38,15 @@ int checkWithoutWindow(const std::string& homeDirectory, const std::string& conf
   platform::NoPanels panels;
   platform::ProcessWorkspace workspace(homeDirectory);
   platform::NotificationCenter notifications;
-  editor::ViewController controller(
-      {homeDirectory, configHome, bundle, output, panels, workspace, application, notifications});
+  editor::ViewController controller({homeDirectory,
+                                     configHome,
+                                     {},
+                                     bundle,
+                                     output,
+                                     panels,
+                                     workspace,
+                                     application,
+                                     notifications});
   controller.viewDidLoad(document::Preferences::IfMissing::leave);
   const checks::State state = checks::stateOf(controller);
   const auto found = checks::findings(state, checks::gather(state));

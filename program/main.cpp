@@ -41,9 +41,9 @@ std::string homeDirectory() {
   return home;
 }
 
-std::string configHome(const std::string& home) {
-  const std::string folder = variable("XDG_CONFIG_HOME");
-  return folder.starts_with('/') ? folder : home + "/.config";
+std::string folderOf(const char* name, const std::string& usual) {
+  const std::string folder = variable(name);
+  return folder.starts_with('/') ? folder : usual;
 }
 
 }  // namespace
@@ -71,12 +71,13 @@ int main(int argc, char** argv) {
 
   const platform::Bundle bundle = platform::Bundle::mainBundle();
   const std::string home = homeDirectory();
-  const std::string config = configHome(home);
+  const std::string config = folderOf("XDG_CONFIG_HOME", home + "/.config");
   if (line.task == program::CommandLine::Task::check) {
     return program::checkWithoutWindow(home, config, bundle);
   }
+  const std::string data = folderOf("XDG_DATA_HOME", home + "/.local/share");
   platform::DescriptorOutput output(STDOUT_FILENO);
   return line.task == program::CommandLine::Task::start
              ? program::startWithoutWindow(home, config, bundle, output)
-             : desktop::run(argc, argv, {home, config, bundle, output, QUILLON_VERSION});
+             : desktop::run(argc, argv, {home, config, data, bundle, output, QUILLON_VERSION});
 }

@@ -25,8 +25,15 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
   platform::NoPanels panels;
   platform::ProcessWorkspace workspace(homeDirectory);
   platform::NotificationCenter notifications;
-  editor::ViewController controller(
-      {homeDirectory, configHome, bundle, output, panels, workspace, application, notifications});
+  editor::ViewController controller({homeDirectory,
+                                     configHome,
+                                     {},
+                                     bundle,
+                                     output,
+                                     panels,
+                                     workspace,
+                                     application,
+                                     notifications});
   controller.viewDidLoad();
   if (!controller.startQuil.isEnabled()) {
     return fail("Start is disabled; choose where Quillon is in the preferences");

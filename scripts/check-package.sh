@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Tries the packages in build/packages as somebody would who gets them: installs or unpacks them,
-# starts a stand-in for Quillon from an ordinary account, and removes them again. Only root can do
+# makes a disk image and starts a stand-in for Quillon from an ordinary account, and removes them again. Only root can do
 # that. Of what it installs only the libraries that the program needs stay behind.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
@@ -56,6 +56,15 @@ checkStart() {
   grep -qx 'ramsize = 67108864' "$report" || fail "$1 --start did not start the stand-in."
 }
 
+# checkImage PROGRAM FOLDER: that a new disk image goes to the folder.
+checkImage() {
+  # The sources are perhaps in a folder that nobody else can read.
+  cp "$root/scripts/virtual_display.sh" "$scratch"
+  asPerson "$scratch/virtual_display.sh" --image disk "$home/pictures" "$1" >"$scratch/log" 2>&1 ||
+    { cat "$scratch/log" >&2 && fail "$1 cannot be used."; }
+  [ "$(stat -c %s "$2/disk.dsk")" = 1048576 ] || fail "$1 made no disk image in $2."
+}
+
 bundleState() { find "/usr/lib/$name" -printf '%p %y %m %u %s %T@\n' | sort; }
 
 checkDebianPackage() {
@@ -77,6 +86,7 @@ checkDebianPackage() {
   own "$home"
   checkVersion "$name"
   checkStart "$name"
+  checkImage "/usr/lib/$name/QuillonSettings.app/Contents/MacOS/$name" "$home/.local/share/$name"
   [ "$(bundleState)" = "$before" ] || fail "An ordinary person changed the installed bundle."
 
   quietly aptGet purge "$name"
@@ -100,6 +110,7 @@ checkArchive() {
   cp -R "$root/demo/Quillon.app" "${unpacked[0]}"
   own "$folder"
   checkVersion "${unpacked[0]}/$name"
+  checkImage "${unpacked[0]}/QuillonSettings.app/Contents/MacOS/$name" "${unpacked[0]}"
   checkStart "${unpacked[0]}/QuillonSettings.app/Contents/MacOS/$name"
 }
 
@@ -107,6 +118,7 @@ checkArchive() {
 package=$(onlyFile "$root"/build/packages/*.deb)
 archive=$(onlyFile "$root"/build/packages/*.tar.gz)
 version=$(dpkg-deb --field "$package" Version)
+installMissing "${displayPackages[@]}"
 scratch=$(mktemp -d)
 chmod 755 "$scratch"
 checkDebianPackage

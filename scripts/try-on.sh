@@ -29,7 +29,7 @@ makeAndEnter() {
   local system=$1 release=$2 architecture=$3 command=$4
   local home=$system/home/tester
   mmdebstrap --quiet --variant=apt --architectures="$architecture" \
-    --include=git,sudo,ca-certificates "$release" "$system" "$MIRROR"
+    --include=git,sudo,passwd,ca-certificates "$release" "$system" "$MIRROR"
   cp /etc/resolv.conf "$system/etc/resolv.conf"
   chroot "$system" useradd --create-home --shell /bin/bash tester
   echo 'tester ALL=(ALL) NOPASSWD: ALL' >"$system/etc/sudoers.d/tester"

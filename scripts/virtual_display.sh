@@ -5,15 +5,17 @@
 #   virtual_display.sh [OPTION...] PICTURES PROGRAM [ARGUMENT...]
 #
 #   --start MEGABYTES      first sets the RAM size and starts the emulator, the stand-in
+#   --image NAME           makes a blank disk image of one megabyte
 #   --windows              leaves pictures of the other windows, too, on the whole screen
 #   --screen WIDTHxHEIGHT  how large the screen is
 #   --locale NAME          whose language is shown; the RAM size needs the English keys
 set -euo pipefail
 
-megabytes='' windows=false screen=1280x1024 locale=C.UTF-8
+megabytes='' image='' windows=false screen=1280x1024 locale=C.UTF-8
 while [[ $1 == --* ]]; do
   case $1 in
     --start) megabytes=$2 && shift ;;
+    --image) image=$2 && shift ;;
     --windows) windows=true ;;
     --screen) screen=$2 && shift ;;
     --locale) locale=$2 && shift ;;
@@ -155,6 +157,10 @@ setRamAndStart() {
   waitFor 20 [ -s "$QUILLON_STAND_IN_REPORT" ] || fail "The stand-in emulator does not start."
 }
 
+makeImage() {
+  pictureWindow create-image key ctrl+n sleep 1 type "$image" key Tab type 1 key Return
+}
+
 startDisplay
 LC_ALL=$locale "$@" &
 program=$!
@@ -168,6 +174,7 @@ waitFor 20 hasFocus || fail "The window does not take the focus."
 [ -z "$megabytes" ] || setRamAndStart
 pictureTabs
 ! "$windows" || pictureWindows
+[ -z "$image" ] || makeImage
 echo "The pictures are in $pictures."
 xdotool key ctrl+q
 waitFor 20 hasEnded "$program" || fail "The program does not quit."

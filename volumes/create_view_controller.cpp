@@ -1,10 +1,10 @@
 #include "volumes/create_view_controller.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <limits>
 #include <string_view>
 
-#include "app/emulator_location.h"
 #include "platform/text.h"
 #include "platform/translatable.h"
 #include "volumes/blank_image.h"
@@ -37,7 +37,11 @@ std::optional<std::int64_t> megabytesOf(std::string_view text) {
 
 }  // namespace
 
-createViewController::createViewController(platform::Output& output) : output_(output) {
+createViewController::createViewController(platform::Output& output, platform::Panels& panels,
+                                           ImageFolder& folder)
+    : output_(output), panels_(panels), folder_(folder) {
+  imageFolder.setEditable(false);
+  chooseImageFolder.action = [this] { chooseFolder(); };
   createImage.action = [this] { createAction(); };
   createName.action = [this] { createNameAction(); };
   startAnim.action = [this] { AnimOn(); };
@@ -50,6 +54,29 @@ void createViewController::viewWillAppear() {
   createStatus.setTextColor(TextColor::gray);
   createImage.setTitle(platform::translatable("Items", "Create"));
   donecreate_ = false;
+  lookAtFolder();
+}
+
+void createViewController::lookAtFolder() {
+  folderState_ = folder_.state();
+  imageFolder.setStringValue(folderState_.path);
+  if (showFolder) {
+    showFolder();
+  }
+}
+
+void createViewController::chooseFolder() {
+  platform::OpenPanel panel;
+  panel.title = platform::translatable("Panels", "Choose a Folder for New Images");
+  panel.canChooseFiles = false;
+  panel.canChooseDirectories = true;
+  panel.canCreateDirectories = true;
+  panel.directory = folderState_.path;
+  const std::vector<platform::Location> chosen = panels_.runModal(panel);
+  if (!chosen.empty()) {
+    folder_.choose(chosen.front().path());
+    lookAtFolder();
+  }
 }
 
 void createViewController::refuse(const std::string& reason) {
@@ -64,6 +91,22 @@ std::optional<std::size_t> createViewController::chosenLength() {
   }
   imageSize_ = *megabytes;
   return static_cast<std::size_t>(imageSize_ * imageSizeConvert);
+}
+
+// The data folder comes with the first image, and not with one that fails.
+std::error_code createViewController::makeImage(std::size_t length) const {
+  namespace fs = std::filesystem;
+  std::error_code error;
+  const bool isNew = folderState_.place == ImageFolder::Place::dataFolder &&
+                     fs::create_directories(folderState_.path, error);
+  ZeroBuffer imageData;
+  error = error ? error : imageData.setLength(length);
+  error = error ? error : writeImage(imageName_, imageData.bytes());
+  if (error && isNew) {
+    std::error_code ignored;
+    fs::remove(folderState_.path.substr(0, folderState_.path.size() - 1), ignored);
+  }
+  return error;
 }
 
 void createViewController::createAction() {
@@ -85,12 +128,9 @@ void createViewController::createAction() {
            std::to_string(largestSize) + "!");
     return;
   }
-  imageName_ = app::ownFolder() + name;
-  ZeroBuffer imageData;
-  std::error_code error = imageData.setLength(*length);
-  if (!error) {
-    error = writeImage(imageName_, imageData.bytes());
-  }
+  imageName_ = folderState_.path + name;
+  const std::error_code error = makeImage(*length);
+  lookAtFolder();
   if (error) {
     refuse("Status: Could not write '" + name + "': " + error.message());
     return;

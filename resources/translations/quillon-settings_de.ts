@@ -438,6 +438,13 @@
     </message>
 </context>
 <context>
+    <name>Panels</name>
+    <message>
+        <source>Choose a Folder for New Images</source>
+        <translation>Ordner für neue Abbilder wählen</translation>
+    </message>
+</context>
+<context>
     <name>Settings</name>
     <message>
         <source>Screen &amp;mode</source>
@@ -844,10 +851,6 @@
         <translation>&amp;Größe (MB):</translation>
     </message>
     <message>
-        <source>Folder:</source>
-        <translation>Ordner:</translation>
-    </message>
-    <message>
         <source>Makes the image, and then closes this sheet.</source>
         <translation>Legt das Abbild an und schließt danach dieses Fenster.</translation>
     </message>
@@ -866,6 +869,38 @@
     <message>
         <source>S&amp;top</source>
         <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>The folder that the image file goes to.</source>
+        <translation>Der Ordner, in den die Abbilddatei kommt.</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>&amp;Wählen …</translation>
+    </message>
+    <message>
+        <source>Chooses the folder for this and later images, until you quit.</source>
+        <translation>Wählt den Ordner für dieses und weitere Abbilder, bis das Programm beendet wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>You cannot write to this folder. Please choose another one.</source>
+        <translation>In diesen Ordner können Sie nicht schreiben. Bitte wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Images go here because you cannot write to the folder of this program, &quot;%1&quot;.</source>
+        <translation>Abbilder kommen hierher, weil Sie in den Ordner dieses Programms, „%1“, nicht schreiben können.</translation>
+    </message>
+    <message>
+        <source>Free space: %1</source>
+        <translation>Freier Platz: %1</translation>
     </message>
 </context>
 <context>

@@ -47,8 +47,9 @@ int runProgram(int argc, char** argv) {
   QMetaObject::invokeMethod(
       &person, [&] { person.start(5); }, Qt::QueuedConnection);
   const std::string home = argv[2];
-  return desktop::run(argc, argv,
-                      {home, home + "/.config", platform::Bundle(argv[3]), output, "test"});
+  return desktop::run(
+      argc, argv,
+      {home, home + "/.config", home + "/.local/share", platform::Bundle(argv[3]), output, "test"});
 }
 
 }  // namespace

@@ -100,8 +100,15 @@ struct FakeHost {
   platform::Host host() { return host(application); }
   platform::Host host(platform::Application& running) {
     const platform::Bundle bundle(home.path("QuillonSettings.app"));
-    return {home.path(), home.path(".config"), bundle, output, panels, workspace,
-            running,     notifications};
+    return {home.path(),
+            home.path(".config"),
+            home.path(".local/share"),
+            bundle,
+            output,
+            panels,
+            workspace,
+            running,
+            notifications};
   }
 
   /// The diagnostics since the last call.

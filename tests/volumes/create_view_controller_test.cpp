@@ -3,25 +3,72 @@
 #include <gtest/gtest.h>
 
 #include "app/emulator_location.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/fake_host.h"
 
 namespace volumes {
 namespace {
 
 namespace fs = std::filesystem;
 
-TEST(CreateViewController, WritesTheTypedNameIntoTheOwnFolder) {
-  const tests::TemporaryFolder folder;
-  for (const auto* other : {"100%25/sub x", "100%25/sub%20x", "100%/sub x", "100%/sub%20x"}) {
-    fs::create_directories(folder.path(other));
+/// A sheet of a front-end whose bundle is in `own`, below the home folder.
+struct Sheet {
+  tests::FakeHost fake;
+  ImageFolder folder{fake.home.path(".local/share")};
+  createViewController controller{fake.output, fake.panels, folder};
+
+  explicit Sheet(const char* own) {
+    fs::create_directories(fake.home.path(own));
+    app::findLocalPath(platform::Bundle(fake.home.path(own) + "/Q.app"), fake.output);
   }
-  platform::BufferOutput output;
-  app::findLocalPath(platform::Bundle(folder.path("100%/Q.app")), output);
-  createViewController sheet(output);
-  sheet.createName.setStringValue("sub%20x/in");
-  sheet.createSize.setStringValue("0");
-  sheet.createImage.sendAction();
-  EXPECT_TRUE(fs::exists(folder.path("100%/sub%20x/in.dsk"))) << sheet.createStatus.stringValue();
+
+  void make(const char* name) {
+    controller.viewWillAppear();
+    controller.createName.setStringValue(name);
+    controller.createSize.setStringValue("0");
+    controller.createImage.sendAction();
+  }
+
+  [[nodiscard]] bool has(const char* file) const { return fs::exists(fake.home.path(file)); }
+};
+
+TEST(CreateViewController, WritesTheTypedNameIntoTheOwnFolder) {
+  Sheet sheet("100%");
+  for (const auto* other : {"100%25/sub x", "100%25/sub%20x", "100%/sub x", "100%/sub%20x"}) {
+    fs::create_directories(sheet.fake.home.path(other));
+  }
+  sheet.make("sub%20x/in");
+  EXPECT_TRUE(sheet.has("100%/sub%20x/in.dsk")) << sheet.controller.createStatus.stringValue();
+}
+
+TEST(CreateViewController, WhereItMayNotWriteImagesGoToThePersonsData) {
+  Sheet sheet("gone");
+  fs::remove(sheet.fake.home.path("gone"));  // nobody can write there, not even root
+  sheet.controller.viewWillAppear();
+  const std::string data = sheet.fake.home.path(".local/share/quillon-settings/");
+  EXPECT_EQ(sheet.controller.imageFolder.stringValue(), data);
+  EXPECT_TRUE(sheet.controller.folderState().isWritable);
+  sheet.make("missing/disk");
+  EXPECT_FALSE(fs::exists(data)) << "an image that failed left a folder behind";
+  sheet.make("disk");
+  EXPECT_TRUE(fs::exists(data + "disk.dsk")) << sheet.controller.createStatus.stringValue();
+}
+
+TEST(CreateViewController, TheChosenFolderHoldsForTheNextSheet) {
+  Sheet sheet("own");
+  fs::create_directories(sheet.fake.home.path("my disks"));
+  sheet.fake.panels.answers = {{platform::Location::fromPath(sheet.fake.home.path("my disks"))},
+                               {}};
+  sheet.controller.viewWillAppear();
+  sheet.controller.chooseImageFolder.sendAction();
+  sheet.controller.chooseImageFolder.sendAction();  // and is cancelled
+  createViewController next(sheet.fake.output, sheet.fake.panels, sheet.folder);
+  next.viewWillAppear();
+  EXPECT_EQ(next.imageFolder.stringValue(), sheet.fake.home.path("my disks/"));
+  sheet.make("disk");
+  EXPECT_TRUE(sheet.has("my disks/disk.dsk"));
+  fs::remove_all(sheet.fake.home.path("my disks"));
+  next.viewWillAppear();
+  EXPECT_FALSE(next.folderState().isWritable) << "it is gone";
 }
 
 }  // namespace
