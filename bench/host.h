@@ -25,6 +25,7 @@ class Host {
   [[nodiscard]] platform::Host host() {
     return {homeDirectory_,
             homeDirectory_ + "/.config",
+            homeDirectory_ + "/.local/share",
             platform::Bundle(homeDirectory_ + "/QuillonSettings.app"),
             output,
             panels,

@@ -23,7 +23,10 @@ checkTexts() {
   said+=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 \
     man --warnings -E UTF-8 -l -Tutf8 -Z "$manual" 2>&1 >/dev/null) || true
   [ -z "$said" ] || fail "$said"
-  quietly appstreamcli validate --no-net "$metainfo"
+  # Versions before 1.0 do not know the tag for developers that later ones ask for.
+  said=$(appstreamcli validate --pedantic --no-net "$metainfo" | grep '^[A-Z]:' |
+    grep -v 'unknown-tag developer$') || true
+  [ -z "$said" ] || fail "$said"
   options=$("$program" --help | grep -oE -- '--[a-z]+')
   for option in $options; do
     sed 's/\\-/-/g' "$manual" | grep -qFx -- ".B $option" || fail "$manual lacks $option"

@@ -158,7 +158,13 @@ setRamAndStart() {
 }
 
 makeImage() {
-  pictureWindow create-image key ctrl+n sleep 1 type "$image" key Tab type 1 key Return
+  xdotool key ctrl+n
+  waitFor 20 hasOpened || fail "The sheet for new images does not open."
+  xdotool type "$image"
+  xdotool key Tab type 1
+  xdotool key Return key Return  # makes the image, then closes the sheet
+  waitFor 20 hasClosed || fail "The sheet for new images does not close."
+  waitFor 20 hasFocus || fail "The window does not take the focus back."
 }
 
 startDisplay
