@@ -91,4 +91,21 @@ Facts gather(const State& state) {
   return facts;
 }
 
+Facts assumedFine(const State& state) {
+  FileFact file;
+  file.kind = Kind::file;
+  file.isReadable = file.isWritable = true;
+  file.stamp.size = 1 << 20;  // bytes: a ROM may be that large
+  Facts facts;
+  facts.quillon = facts.rom = facts.sharedFolder = facts.keycodeFile = facts.preferences = file;
+  facts.hasProgram = facts.folderIsWritable = true;
+  facts.sharedFolder.kind = Kind::folder;
+  facts.preferences.stamp = state.preferences.stamp.value_or(file.stamp);
+  for (std::size_t index = 0; index < state.disks.size(); ++index) {
+    facts.disks.push_back(file);
+    facts.disks.back().stamp.inode = index;
+  }
+  return facts;
+}
+
 }  // namespace checks

@@ -45,4 +45,7 @@ struct Facts {
 /// take as long as a dead network mount does.
 Facts gather(const State& state);
 
+/// Facts that nothing is to be found about: all files are there and as they should be.
+Facts assumedFine(const State& state);
+
 }  // namespace checks

@@ -31,9 +31,6 @@ void ChangeMarks::update() {
     marked_.volumesLabel->setFont(font);
   }
   marked_.unsaved->refresh();
-  if (marked_.readError != nullptr && controller_.preferences.readError().empty()) {
-    marked_.readError->hide();
-  }
   // Only on a change: the window system answers each new title, which wakes the event loop and
   // would lead here again without end.
   const bool modified = !changed.empty() || volumesChanged;

@@ -21,7 +21,6 @@ class ChangeMarks : public QObject {
     const SettingWidgets& settings;  // more are added while the pages are being made
     QWidget* volumesLabel;
     UnsavedBar* unsaved;
-    QWidget* readError;  // hidden once a save has replaced the unread file; null: it was read
   };
 
   ChangeMarks(const editor::ViewController& controller, const Marked& marked);

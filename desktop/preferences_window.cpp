@@ -64,6 +64,7 @@ QLayout* PreferencesWindow::locationRow() {
       controller_.Quillon,
       tr("The application that Start launches. \"Quillon\" must be part of the name."));
   field->setAccessibleName(tr("Location"));
+  location_ = field;
   auto* const label = new QLabel(tr("&Location:"));
   label->setBuddy(field);
   QPushButton* const choose = controls_.pushButton(controller_.chooseQuillon, tr("&Choose…"),

@@ -15,11 +15,15 @@ class PreferencesWindow : public QDialog {
  public:
   PreferencesWindow(const platform::Host& host, Edits& edits, QWidget* parent);
 
+  /// What shows where Quillon is.
+  [[nodiscard]] QWidget* location() const { return location_; }
+
  private:
   [[nodiscard]] QLayout* locationRow();
 
   app::prefsViewController controller_;
   Controls controls_;
+  QWidget* location_ = nullptr;
 };
 
 }  // namespace desktop

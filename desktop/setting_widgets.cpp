@@ -123,6 +123,9 @@ void showState(const SettingWidget& place, bool isChanged, bool isDefault) {
   if (!isDefault) {
     told.append(tr("Not the default."));
   }
+  if (!place.findings.isEmpty()) {
+    told.append(place.findings);
+  }
   told.append(place.widget->whatsThis());
   const QString description = told.join(QLatin1Char(' '));
   for (QWidget* const widget :

@@ -11,9 +11,10 @@ namespace desktop {
 /// Where a setting is in the window.
 struct SettingWidget {
   editor::Setting* setting;
-  QString title;    // the label as plain text
-  QWidget* label;   // shows the title; for a check box it is the same as `widget`
-  QWidget* widget;  // shows the value
+  QString title;       // the label as plain text
+  QWidget* label;      // shows the title; for a check box it is the same as `widget`
+  QWidget* widget;     // shows the value
+  QString findings{};  // what the checks have found about it, for screen readers
 };
 
 using SettingWidgets = std::vector<SettingWidget>;

@@ -18,15 +18,13 @@
 #include "desktop/agreement_sheet.h"
 #include "desktop/create_sheet.h"
 #include "desktop/pages.h"
-#include "desktop/preferences_window.h"
 #include "desktop/preview_window.h"
-#include "desktop/status_line.h"
 #include "desktop/texts.h"
 
 namespace desktop {
 
 SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
-                               Edits& edits)
+                               Edits& edits, FactsSource facts)
     : controller_(controller),
       host_(host),
       controls_(edits),
@@ -41,16 +39,14 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   setMenuWidget(topRow());  // made first: the Tab key goes through the widgets as they were made
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
-  if (!controller.preferences.readError().empty()) {
-    readError_ = readErrorLine();
-    layout->addWidget(readError_);
-  }
   layout->addWidget(tabs_, 1);
   setCentralWidget(content);
   layout->addWidget(help_);
   addPages();
   buildShortcuts();
   layout->addLayout(fileRow());
+  auto* const checksLine = new ChecksLine;
+  layout->addWidget(checksLine);
   layout->addLayout(buttonRow());
   help_->follow(content);
   fillPage(editor::TabId::volumes);
@@ -61,14 +57,15 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
       window->openCreation();
     }
   };
+  checks_.emplace(controller, std::move(facts), checkedWindow(checksLine));
   tabsShown_ = controller.tabs.tabViewC.attach([this] { showTabs(); });
   connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
   // The size goes by the font. A tenth of the screen is left for title bar and panels.
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
-  changeMarks_.emplace(
-      controller, ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, unsaved_, readError_});
+  changeMarks_.emplace(controller,
+                       ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, unsaved_});
   controller.viewWillAppear(delegate_);
   tabs_->setFocus();
 }
@@ -125,12 +122,16 @@ void SettingsWindow::completePages() {
   requireEverySetting(settingWidgets_);
 }
 
-// A person sees one page first. The others are made once it is on the screen.
+// A person sees one page first. The others are made, and files are looked at, once it is on the
+// screen.
 void SettingsWindow::paintEvent(QPaintEvent* event) {
   QMainWindow::paintEvent(event);
-  if (!pagesComplete_) {
-    QTimer::singleShot(0, this, &SettingsWindow::completePages);
-    QTimer::singleShot(0, this, &SettingsWindow::showIcon);
+  if (!pagesComplete_ || !checks_->isStarted()) {
+    QTimer::singleShot(0, this, [this] {
+      completePages();
+      showIcon();
+      checks_->start();
+    });
   }
 }
 
@@ -145,17 +146,8 @@ void SettingsWindow::showTabs() {
     tabs_->addTab(pages_.at(indexOf(controller_.tabs.idOf(*item))), label);
   }
   tabs_->setCurrentIndex(std::max(0, tabs_->indexOf(const_cast<QWidget*>(current))));
+  checks_->markTabs();
   tabs_->setUpdatesEnabled(true);
-}
-
-QWidget* SettingsWindow::readErrorLine() {
-  auto* const line = new StatusLine;
-  line->setObjectName(QLatin1String("readError"));
-  line->show(tr("The preferences file could not be read: %1. What you see are the defaults, and "
-                "saving puts them in the place of what is in the file.")
-                 .arg(toQString(controller_.preferences.readError())),
-             platform::TextColor::red);
-  return line;
 }
 
 QLayout* SettingsWindow::fileRow() {
@@ -164,6 +156,7 @@ QLayout* SettingsWindow::fileRow() {
       tr("The preferences file that Save and Start write. Type another place to save to before the "
          "first save.");
   auto* const field = controls_.pathField(controller_.filename_field, help);
+  fileField_ = field;
   field->setPlaceholderText(controller_.preferences.prefsURL
                                 ? toQString(controller_.preferences.prefsURL->path())
                                 : QString());
@@ -182,6 +175,7 @@ QLayout* SettingsWindow::fileRow() {
 QLayout* SettingsWindow::buttonRow() {
   auto* const row = new QHBoxLayout;
   auto* const preferences = new QPushButton(tr("Prefere&nces…"));
+  preferencesButton_ = preferences;
   preferences->setObjectName(QLatin1String("openPreferences"));
   preferences->setToolTip(tr("Where Quillon is, and how this program behaves."));
   connect(preferences, &QPushButton::clicked, this, &SettingsWindow::openPreferences);
@@ -196,6 +190,21 @@ QLayout* SettingsWindow::buttonRow() {
   row->addWidget(controls_.pushButton(controller_.isQuit, tr("&Quit"),
                                       tr("Ends the program without saving.")));
   return row;
+}
+
+ChecksView::Window SettingsWindow::checkedWindow(ChecksLine* line) {
+  const auto showLocation = [this] {
+    openPreferences();
+    return preferences_->location();
+  };
+  return {this,
+          line,
+          tabs_,
+          settingWidgets_,
+          fileField_,
+          qobject_cast<QLabel*>(volumesLabel_)->buddy(),
+          preferencesButton_,
+          showLocation};
 }
 
 void SettingsWindow::showStart(QPushButton* button) {

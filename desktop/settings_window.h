@@ -8,10 +8,12 @@
 #include <optional>
 
 #include "desktop/change_marks.h"
+#include "desktop/checks_view.h"
 #include "desktop/controls.h"
 #include "desktop/find_field.h"
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
+#include "desktop/preferences_window.h"
 #include "desktop/setting_widgets.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
@@ -24,7 +26,9 @@ class SettingsWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  SettingsWindow(editor::ViewController& controller, const platform::Host& host, Edits& edits);
+  /// `facts` is where the checks get the facts about files from.
+  SettingsWindow(editor::ViewController& controller, const platform::Host& host, Edits& edits,
+                 FactsSource facts = checks::gather);
 
   /// Makes the pages that are still empty. Before the window is shown only the first one is made:
   /// all of them would delay the first paint.
@@ -39,9 +43,9 @@ class SettingsWindow : public QMainWindow {
   void fillPage(editor::TabId id);
   [[nodiscard]] QWidget* topRow();
   void buildShortcuts();
-  [[nodiscard]] QWidget* readErrorLine();
   [[nodiscard]] QLayout* fileRow();
   [[nodiscard]] QLayout* buttonRow();
+  [[nodiscard]] ChecksView::Window checkedWindow(ChecksLine* line);
   void showTabs();
   void goTo(const SettingWidget& place);
   [[nodiscard]] int tabOf(const SettingWidget& place) const;
@@ -64,14 +68,16 @@ class SettingsWindow : public QMainWindow {
   HelpLine* help_;
   Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
-  QPointer<QWidget> preferences_;
+  QPointer<PreferencesWindow> preferences_;
   std::array<QScrollArea*, editor::tabCount> pages_{};
   bool pagesComplete_ = false;
   SettingWidgets settingWidgets_;
   QWidget* volumesLabel_ = nullptr;
   UnsavedBar* unsaved_ = nullptr;
-  QWidget* readError_ = nullptr;
+  QWidget* fileField_ = nullptr;
+  QWidget* preferencesButton_ = nullptr;
   std::optional<ChangeMarks> changeMarks_;
+  std::optional<ChecksView> checks_;
   platform::Subscription tabsShown_;
   platform::Subscription startShown_;
 };

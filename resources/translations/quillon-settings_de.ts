@@ -745,6 +745,18 @@
         <source>Not the default.</source>
         <translation>Nicht die Vorgabe.</translation>
     </message>
+    <message>
+        <source>Problem: %1</source>
+        <translation>Problem: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Note: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -818,6 +830,39 @@
     <message>
         <source>Put back %1</source>
         <translation>%1 zurücknehmen</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ChecksLine</name>
+    <message>
+        <source>Checking the files…</source>
+        <translation>Dateien werden geprüft …</translation>
+    </message>
+    <message>
+        <source>What keeps Quillon from starting, and what else deserves a look. Press it to see all of it.</source>
+        <translation>Was Quillon am Starten hindert und was sonst einen Blick verdient. Ein Klick zeigt alles.</translation>
+    </message>
+    <message>
+        <source>Ready to start.</source>
+        <translation>Bereit zum Starten.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ChecksList</name>
+    <message>
+        <source>What to Look At Before Starting</source>
+        <translation>Vor dem Starten zu beachten</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ChecksView</name>
+    <message>
+        <source>%1, with something to look at</source>
+        <translation>%1, hier ist etwas zu beachten</translation>
     </message>
 </context>
 <context>
@@ -1183,10 +1228,6 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
-        <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>

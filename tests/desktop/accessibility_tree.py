@@ -73,7 +73,7 @@ def walk(frame):
     tabs = [item for item in showing(bar) if item.get_role() == Atspi.Role.PAGE_TAB]
     for tab in tabs:
         tab.do_action(0)
-        wait_for(f"page of {tab.get_name()}", lambda: bar.get_name() == tab.get_name())
+        wait_for(f"page of {tab.get_name()}", lambda: tab.get_name().startswith(bar.get_name()))
         for item in list(showing(frame)):
             if item.get_state_set().contains(Atspi.StateType.FOCUSABLE):
                 check(tab.get_name(), item)

@@ -88,14 +88,6 @@ TEST_F(Editing, APastedTextIsOneLine) {
             tests::Model("ramsize 67108864\nrom /new ramsize 1\nether /new ramsize 1\n").text());
 }
 
-TEST_F(Editing, AFileThatCannotBeReadIsToldUntilItIsReplaced) {
-  open("ramsize 8388608\nrom \xff\n");
-  EXPECT_TRUE(find("readError")->isVisible());
-  key(Qt::Key_S, control);
-  QTest::qWait(1);
-  EXPECT_FALSE(find("readError")->isVisible());
-}
-
 TEST_F(Editing, OnlyAnAcceptedTextGetsIntoTheRamBox) {
   QWidget other;
   // What is typed, keys (L: the list is opened, W: a look at another window), what is then shown.

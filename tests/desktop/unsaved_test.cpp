@@ -42,7 +42,7 @@ TEST_F(Unsaved, IsCountedListedPutBackAndSaved) {
       << text("savedLine").toStdString();
   find<QAction>("resetPage")->trigger();
   QTRY_COMPARE(text("changesButton"), QLatin1String("1 unsaved change"));
-  EXPECT_FALSE(isVisible("savedLine"));
+  QTRY_VERIFY(!isVisible("savedLine"));
 }
 
 TEST_F(Unsaved, TellsWhetherQuillonWasStarted) {

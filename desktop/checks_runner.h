@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "checks/facts.h"
+#include "checks/finding.h"
+#include "editor/view_controller.h"
+
+namespace desktop {
+
+/// Where the facts about files come from. It is called outside the window's thread, may take as
+/// long as it wants, and may return after the program has forgotten about it.
+using FactsSource = std::function<checks::Facts(const checks::State&)>;
+
+/// Keeps the findings up to date. The window's thread never waits for a file: facts are gathered on
+/// threads of their own, and those that are outdated when they arrive are dropped.
+class ChecksRunner : public QObject {
+  Q_OBJECT
+
+ public:
+  ChecksRunner(const editor::ViewController& controller, FactsSource source);
+  ~ChecksRunner() override;
+
+  /// From now on the findings follow the state of the window.
+  void start();
+  [[nodiscard]] bool isStarted() const { return started_; }
+
+  /// Gathers the facts anew, since files may have changed.
+  void lookAgain();
+
+  /// Those that were found last. Before the facts are there, and when they are long in coming,
+  /// those that need no facts.
+  [[nodiscard]] const std::vector<checks::Finding>& findings() const { return findings_; }
+
+  /// Whether the facts are still to come.
+  [[nodiscard]] bool isWaiting() const { return isWaiting_; }
+
+ signals:
+  void changed();
+
+ private:
+  /// All that findings depend on and that is quickly compared.
+  struct Watched {
+    std::array<std::string, document::keyCount> values;
+    std::size_t volumes = 0;  // the revision of the table
+    bool isStartEnabled = false;
+    std::string pathToQuil;
+    std::optional<platform::Location> prefsURL;
+    std::string saveError;
+    std::optional<platform::FileStamp> stamp;
+
+    friend bool operator==(const Watched&, const Watched&) = default;
+  };
+  struct Mailbox;
+
+  [[nodiscard]] Watched watched() const;
+  void follow();
+  void gather();
+  void receive(std::size_t number, std::vector<checks::Finding> found);
+  void showWithoutFacts();
+
+  const editor::ViewController& controller_;
+  FactsSource source_;
+  std::shared_ptr<Mailbox> mailbox_;  // also held by the threads, which may outlive this object
+  QTimer patience_;
+  Watched watched_;
+  std::vector<checks::Finding> findings_;
+  std::size_t newest_ = 0;   // number of the gathering begun last
+  std::size_t running_ = 0;  // gatherings that have not come back
+  bool started_ = false;
+  bool isWaiting_ = true;
+  bool again_ = false;  // once one of them comes back
+};
+
+}  // namespace desktop
