@@ -70,8 +70,11 @@ void ChecksRunner::follow() {
 }
 
 void ChecksRunner::lookAgain() {
-  // What hangs for this state would hang once more.
-  if (started_ && !isWaiting_) {
+  if (isWaiting_) {
+    // What is under way may have passed a file before it changed. Another thread beside one that
+    // hangs would hang as well.
+    again_ = started_;
+  } else {
     gather();
   }
 }
