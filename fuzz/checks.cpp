@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "checks/findings.h"
+#include "document/lines.h"
 #include "tests/support/fuzz.h"
 #include "tests/support/model.h"
 #include "tests/support/temporary_folder.h"
@@ -59,11 +60,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::size_t elsewhere = 0;
   for (const document::KeyRow& row : document::keyTable) {
     state.settings.at(indexOf(row.key)).value = model[row.key];
-    const auto lines = model.lines();
-    const auto first = std::find_if(lines.begin(), lines.end(), [&](const std::string& line) {
-      return line.find(row.text) != line.npos;
-    });
-    elsewhere += *first == std::string(row.text) + model[row.key] ? 0 : 1;
+    const auto lines = document::Lines(model.text());
+    const auto first = lines.firstContaining(row.text);
+    elsewhere += first == std::string(row.text) + model[row.key] ? 0 : 1;
   }
   const auto found = checks::findings(state, checks::gather(state));
 
