@@ -1,8 +1,8 @@
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QMimeData>
 #include <QTableView>
 #include <QTimer>
-#include <sstream>
 
 #include "tests/desktop/window_fixture.h"
 
@@ -10,6 +10,7 @@ namespace {
 
 constexpr auto alt = Qt::AltModifier;
 constexpr auto control = Qt::ControlModifier;
+constexpr auto shift = Qt::ShiftModifier;
 
 class Volumes : public tests::WindowTest {
  protected:
@@ -23,69 +24,93 @@ class Volumes : public tests::WindowTest {
     table->setFocus();
   }
 
+  QModelIndex cell(int row, int column = 0) const { return table->model()->index(row, column); }
+
   /// The names as shown, a letter each.
   std::string order() const {
     std::string letters;
     for (int row = 0; row < table->model()->rowCount(); ++row) {
-      letters += table->model()->index(row, 0).data().toString().back().toLatin1();
+      letters += cell(row).data().toString().back().toLatin1();
     }
     return letters;
   }
 
-  QRect placeOf(int row) const { return table->visualRect(table->model()->index(row, 0)); }
-
   void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) const {
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers, placeOf(row).center());
-  }
-
-  /// Drags the selected rows by the one to the upper or lower edge of another, or onto it, and lets
-  /// go.
-  void drag(int row, int target, const std::string& place) {
-    QWindow* const screen = window->windowHandle();
-    const auto at = [&](QPoint point) { return table->viewport()->mapTo(&*window, point); };
-    const QPoint start = at(placeOf(row).center());
-    const QRect rect = placeOf(target);
-    const int edge = place == "below" ? rect.bottom() - 1 : rect.top() + 1;
-    const QPoint end = at({rect.center().x(), place == "on" ? rect.center().y() : edge});
-    QTest::mousePress(screen, Qt::LeftButton, {}, start);
-    QTest::mouseMove(screen, start + QPoint(4, 0));
-    QTimer::singleShot(30, &*window, [&] {
-      QTest::mouseMove(screen, end + QPoint(3, 0));
-      QTest::mouseMove(screen, end);
-      QTest::mouseRelease(screen, Qt::LeftButton, {}, end);
-    });
-    QTest::mouseMove(screen, start + QPoint(40, 0));  // returns when the drag has ended
-    QTest::qWait(20);
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers,
+                      table->visualRect(cell(row)).center());
   }
 
   QTableView* table = nullptr;
 };
 
+TEST_F(Volumes, ShowsAPictureAPathASizeAndAKind) {
+  const std::string image = fake.home.write("a <b>.dsk", std::string(1'474'560, '\0'));
+  open("disk " + image + "\ndisk here.dsk\n");
+  table = find<QTableView>("tableView");
+  const auto text = [this](int row, int column) {
+    return cell(row, column).data().toString().toStdString();
+  };
+  EXPECT_EQ(text(0, 0), image);
+  EXPECT_EQ(text(0, 1), "1.5 MB");
+  EXPECT_EQ(text(0, 2), "Disk Image");
+  EXPECT_EQ(text(1, 2), "No Path!");
+  EXPECT_FALSE(cell(0).data(Qt::DecorationRole).value<QIcon>().isNull());
+  EXPECT_FALSE(cell(0, 1).data(Qt::DecorationRole).isValid());
+  const QStringList titles = {"Disk image", "Size", "Kind"};
+  for (int column = 0; column < titles.size(); ++column) {
+    const auto title = [&](int role) {
+      return table->model()->headerData(column, Qt::Horizontal, role);
+    };
+    EXPECT_EQ(title(Qt::DisplayRole).toString().trimmed(), titles.at(column));
+    for (const QVariant& side :
+         {title(Qt::TextAlignmentRole), cell(0, column).data(Qt::TextAlignmentRole)}) {
+      EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, column == 1) << "numbers end at the right";
+    }
+  }
+  EXPECT_GT(table->columnWidth(0), table->columnWidth(1) + table->columnWidth(2));
+}
+
 TEST_F(Volumes, KeysAndClicks) {
   openDisks("ABCD");
   const auto location = [](const char* path) { return platform::Location::fromPath(path); };
   fake.panels.answers = {{location("/E"), location("/F")}, {location("/E")}};
+  const auto press = [](int code, Qt::KeyboardModifiers modifiers) {
+    return [=] { key(code, modifiers); };
+  };
+  const auto clickAndRemove = [&](int row, Qt::KeyboardModifiers modifiers) {
+    return [=, this] {
+      clickRow(row, modifiers);
+      click("removeVol");
+    };
+  };
   struct Row {
     std::function<void()> act;
     const char* order;
+    const char* why = "";
   };
   const std::vector<Row> rows = {
-      {[&] { clickRow(1), key(Qt::Key_Down, alt); }, "ACBD"},
-      {[&] { key(Qt::Key_Down, alt), key(Qt::Key_Down, alt); }, "ACDB"},
-      {[&] { key(Qt::Key_Up, Qt::ShiftModifier), key(Qt::Key_Up, alt); }, "ADBC"},
-      {[&] { key(Qt::Key_Delete); }, "ABC"},  // D was selected last
-      {[&] { key(Qt::Key_Delete); }, "AC"},
-      {[&] { key(Qt::Key_Insert); }, "ACEF"},
-      {[&] { key(Qt::Key_O, control); }, "ACEFE"},
-      {[&] { clickRow(4), click("removeVol"); }, "ACFE"},  // the first of two equal ones
-      {[&] { clickRow(3), clickRow(0, control), clickRow(2, control), clickRow(2, control); },
-       "ACFE"},
-      {[&] { click("removeVol"); }, "CFE"},  // the one before is no longer selected
-      {[&] { clickRow(2), clickRow(1, Qt::ShiftModifier), click("removeVol"); }, "CE"},
-      {[&] { table->clearSelection(), click("removeVol"); }, "CE"}};
+      {[&] { clickRow(1); }, "ABCD"},
+      {press(Qt::Key_Down, alt), "ACBD"},
+      {press(Qt::Key_Down, alt), "ACDB"},
+      {press(Qt::Key_Down, alt), "ACDB", "it is the last one"},
+      {press(Qt::Key_Up, shift), "ACDB"},
+      {press(Qt::Key_Up, alt), "ADBC", "both go"},
+      {press(Qt::Key_Delete, {}), "ABC", "D was selected last"},
+      {press(Qt::Key_Delete, {}), "AC", "the next one is selected"},
+      {press(Qt::Key_Insert, {}), "ACEF"},
+      {press(Qt::Key_O, control), "ACEFE"},
+      {clickAndRemove(4, {}), "ACFE", "the first of two equal ones goes"},
+      {[&] { clickRow(3); }, "ACFE"},
+      {[&] { clickRow(0, control); }, "ACFE"},
+      {[&] { clickRow(2, control); }, "ACFE"},
+      {clickAndRemove(2, control), "CFE", "the one before, as that one is no longer selected"},
+      {[&] { clickRow(2); }, "CFE"},
+      {clickAndRemove(1, shift), "CE"},
+      {[&] { table->clearSelection(); }, "CE"},
+      {[&] { click("removeVol"); }, "CE", "nothing is selected"}};
   for (std::size_t row = 0; row < rows.size(); ++row) {
     rows[row].act();
-    EXPECT_EQ(order(), rows[row].order) << "row " << row;
+    EXPECT_EQ(order(), rows[row].order) << "row " << row << ": " << rows[row].why;
   }
   key(Qt::Key_S, control);
   EXPECT_TRUE(file().starts_with("disk /C\ndisk /E\nextfs "));
@@ -95,7 +120,7 @@ TEST_F(Volumes, RowsOfAnotherWindowAreRefused) {
   openDisks("ABC");
   QMimeData data;
   data.setData(table->model()->mimeTypes().constFirst(), "0\n");
-  const QPoint end(5, placeOf(2).bottom() - 1);
+  const QPoint end(5, table->visualRect(cell(2)).bottom() - 1);
   const auto send = [&](auto event) { QApplication::sendEvent(table->viewport(), &event); };
   send(QDragEnterEvent(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
   send(QDragMoveEvent(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
@@ -107,20 +132,49 @@ TEST_F(Volumes, RowsAreDraggedBetweenRows) {
   if (QGuiApplication::platformName() != QLatin1String("minimal")) {
     GTEST_SKIP() << "the platform without a screen ends drags at once";
   }
-  // The rows selected in the order of clicks; where the last one is dragged to; the new order.
-  for (const std::string row : {"0 over 3 BCADE", "20 over 4 BDACE", "43 below 0 ADEBC",
-                                "13 below 0 ABDCE", "142 over 0 BCEAD", "0 below 4 BCDEA",
-                                "2 below 2 ABCDE", "34 over 3 ABCDE", "0 on 3 ABCDE"}) {
-    SCOPED_TRACE(row);
+  enum Place { over, on, below };
+  struct Row {
+    std::vector<int> selected;  // in the order of clicks; the last one is dragged
+    Place place;
+    int target;
+    const char* order;
+  };
+  for (const auto& [selected, place, target, wanted] : std::initializer_list<Row>{
+           {.selected = {0}, .place = over, .target = 3, .order = "BCADE"},
+           {.selected = {2, 0}, .place = over, .target = 4, .order = "BDACE"},
+           {.selected = {1, 4, 2}, .place = over, .target = 0, .order = "BCEAD"},
+           {.selected = {0}, .place = below, .target = 4, .order = "BCDEA"},
+           {.selected = {3, 4}, .place = over, .target = 3, .order = "ABCDE"},
+           {.selected = {0}, .place = on, .target = 3, .order = "ABCDE"}}) {
+    SCOPED_TRACE(wanted);
     openDisks("ABCDE");
-    std::istringstream words(row);
-    std::string selected, place, target, wanted;
-    words >> selected >> place >> target >> wanted;
-    for (const char each : selected) {
-      clickRow(each - '0', each == selected.front() ? Qt::NoModifier : control);
+    for (const int row : selected) {
+      clickRow(row, row == selected.front() ? Qt::NoModifier : control);
     }
-    drag(selected.back() - '0', target.front() - '0', place);
+    QWindow* const screen = window->windowHandle();
+    const auto at = [&](QPoint point) { return table->viewport()->mapTo(&*window, point); };
+    const QPoint start = at(table->visualRect(cell(selected.back())).center());
+    const QRect rect = table->visualRect(cell(target));
+    const int edge = place == below ? rect.bottom() : rect.top();
+    const QPoint end = at({rect.center().x(), place == on      ? rect.center().y()
+                                              : place == below ? edge - 1
+                                                               : edge + 1});
+    bool line = false;
+    QTest::mousePress(screen, Qt::LeftButton, {}, start);
+    QTest::mouseMove(screen, start + QPoint(4, 0));
+    QTimer::singleShot(30, &*window, [&] {
+      QTest::mouseMove(screen, end + QPoint(3, 0));
+      QTest::mouseMove(screen, end);
+      const QImage image = table->viewport()->grab().toImage();
+      const QColor color = table->palette().color(QPalette::Highlight);
+      line =
+          image.pixelColor(2, edge) == color && image.pixelColor(image.width() - 3, edge) == color;
+      QTest::mouseRelease(screen, Qt::LeftButton, {}, end);
+    });
+    QTest::mouseMove(screen, start + QPoint(40, 0));  // returns when the drag has ended
+    QTest::qWait(20);
     EXPECT_EQ(order(), wanted);
+    EXPECT_EQ(line, place != on) << "a line shows where the rows would go";
     EXPECT_EQ(table->selectionModel()->selectedRows().size(), qsizetype(selected.size()));
   }
 }
@@ -128,14 +182,17 @@ TEST_F(Volumes, RowsAreDraggedBetweenRows) {
 TEST_F(Volumes, AReloadAsksForVisibleCellsOnly) {
   openDisks(std::string(1000, 'A'));
   const int visible = 3 * (table->viewport()->height() / table->rowHeight(0) + 2);
-  for (const std::function<void()>& act : std::initializer_list<std::function<void()>>{
-           [] {}, [&] { click("ronMode"); }, [&] { table->scrollToBottom(); }}) {
-    act();
+  const auto expectAsked = [&](const char* when) {
     QTest::qWait(10);
     const auto asked = QString::fromStdString(fake.said()).count(QLatin1String("loCalmode"));
-    EXPECT_TRUE(asked > 3 && asked <= visible) << asked;
+    EXPECT_TRUE(asked > 3 && asked <= visible) << asked << " " << when;
     EXPECT_GT(table->columnWidth(2), table->fontMetrics().horizontalAdvance("Not Found!"));
-  }
+  };
+  expectAsked("at first");
+  click("ronMode");
+  expectAsked("after a switch");
+  table->scrollToBottom();
+  expectAsked("at the end");
 }
 
 }  // namespace

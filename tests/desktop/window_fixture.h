@@ -22,8 +22,12 @@ namespace tests {
 
 /// The running application, but for what would end it.
 struct TestedApplication : desktop::Application {
-  void terminate() override {}
-  void exitNow() override {}
+  explicit TestedApplication(platform::Output& log) : output(log) {}
+
+  platform::Output& output;
+
+  void terminate() override { output.print("<terminate>"); }
+  void exitNow() override { output.print("<exit>"); }
 };
 
 /// The settings window over a home of its own, driven as a person does.
@@ -109,7 +113,7 @@ class WindowTest : public testing::Test {
   std::string value(document::Key wanted) const { return controller->preferences.value(wanted); }
 
   FakeHost fake;
-  TestedApplication application;
+  TestedApplication application{fake.output};
   std::optional<editor::ViewController> controller;
   std::optional<desktop::SettingsWindow> window;
 };

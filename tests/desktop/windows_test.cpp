@@ -1,4 +1,5 @@
-#include <fcntl.h>
+// The windows that the settings window opens.
+
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -8,14 +9,16 @@
 
 #include "app/shared_var.h"
 #include "desktop/status_line.h"
+#include "tests/desktop/description.h"
 #include "tests/desktop/window_fixture.h"
+#include "tests/support/golden.h"
 
 namespace {
 
 using app::sharedVar;
+using platform::TextColor;
 namespace fs = std::filesystem;
 
-/// The windows that the settings window opens.
 class Windows : public tests::WindowTest {
  protected:
   void openBy(const char* button) {
@@ -23,28 +26,18 @@ class Windows : public tests::WindowTest {
     QTest::qWait(0);
     ASSERT_NE(QApplication::activeWindow(), &*window);
   }
-  void leave(int code = 0) {
-    code != 0 ? key(code) : click("Done");
+  void leave(int code) {
+    key(code);
     QTest::qWait(0);
     activate(&*window);
+  }
+  static std::string frontWindow() {
+    return tests::described(*QApplication::activeWindow(), [](const QWidget*) { return true; });
   }
   std::string text(const char* name) const {
     return find(name)->property("text").toString().toStdString();
   }
   bool isOn(const char* name) const { return find<QAbstractButton>(name)->isChecked(); }
-
-  /// Where Quillon is, the mode, whether Start works; then what the preferences window shows.
-  std::string state() const {
-    std::string all = sharedVar::pathToQuil + " " + std::to_string(sharedVar::startFlag);
-    all += sharedVar::startState ? " start:" : " -:";
-    for (const char* const mode : {"quilOff", "quilLocal", "quilCustom"}) {
-      all += isOn(mode) ? std::string(" ") + mode : "";
-    }
-    auto* const field = find<QLineEdit>("Quillon");
-    const bool editable = field->isEnabled() && !field->isReadOnly();
-    return all + (text("Quillon") == sharedVar::pathToQuil ? " =" : " " + text("Quillon")) +
-           (editable ? "_" : "");
-  }
 };
 
 double luminance(const QColor& color) {
@@ -53,15 +46,39 @@ double luminance(const QColor& color) {
 }
 
 TEST_F(Windows, StatusColoursAreReadableOnEveryBackground) {
-  using platform::TextColor;
   for (const int gray : {0, 32, 53, 64, 200, 225, 239, 255}) {
     const QColor background(gray, gray, gray);
     for (const TextColor color : {TextColor::gray, TextColor::red, TextColor::blue}) {
       const QColor readable = desktop::readableColor(color, background, background);
       const double ratio = (luminance(readable) + 0.05) / (luminance(background) + 0.05);
       EXPECT_TRUE(ratio >= 4.5 || ratio <= 1 / 4.5) << gray;
+      const int redness = readable.red() - readable.blue();
+      EXPECT_EQ(redness > 0, color == TextColor::red);
+      EXPECT_EQ(redness < 0, color == TextColor::blue);
     }
   }
+}
+
+TEST_F(Windows, TheSmallOnesReadAsDescribed) {
+  open();
+  tests::Golden golden("windows/others.txt", fake.home.path());
+  for (const char* const opening : {"openPreferences", "bitCreate"}) {
+    openBy(opening);
+    golden.expect(opening, frontWindow());
+    EXPECT_EQ(tests::doubleLetters(*QApplication::activeWindow()), "");
+    leave(Qt::Key_Escape);
+  }
+  for (QAction* const entry : window->findChildren<QAction*>()) {
+    if (entry->text().contains(QLatin1String("Agreement"))) {
+      entry->trigger();
+    }
+  }
+  QTest::qWait(0);
+  golden.expect("Beta Agreement", frontWindow());
+  EXPECT_EQ(QApplication::focusWidget(), find("Agree"));
+  fake.said();
+  leave(Qt::Key_Return);
+  EXPECT_EQ(fake.said(), "Agree\n");
 }
 
 TEST_F(Windows, ImagesAreMadeOrRefusedWithAReason) {
@@ -70,108 +87,119 @@ TEST_F(Windows, ImagesAreMadeOrRefusedWithAReason) {
   fs::create_directory(home / "folder.dsk");
   ASSERT_EQ(::mkfifo((home / "fifo.dsk").c_str(), 0600), 0);
   fake.home.write("old.dsk", std::string(3 << 20, 'x'));
-  const std::tuple<std::string, const char*, std::string, int> rows[] = {
-      // the name and the size, as typed; the status or its beginning; the bytes
-      {"", "1", "You need to enter a name!", -1},
-      {"test", "20", "'test.dsk' - 20 MB Done!", 20 << 20},
-      {"zero", "0", "'zero.dsk' - 0 MB Done!", 0},
-      {"usual", "abc", "'usual.dsk' - 100 MB Done!", 100 << 20},
-      {"old", "+1", "'old.dsk' - 1 MB Done!", 1 << 20},
-      {"minus", "-1", "The size must be", -1},
-      {"large", "8796093022208", "The size must be", -1},
-      {"larger", "99999999999999999999", "The size must be", -1},
-      {"none/x", "1", "Could not write 'none/x.dsk': No such file", -1},
-      {"folder", "1", "Could not write 'folder.dsk': Is a directory", -1},
-      {"fifo", "1", "Could not write 'fifo.dsk': ", -1},
-      {"full", "101", "Could not write 'full.dsk': File too large", -1}};
+  struct Row {
+    std::string name;
+    const char* size;
+    std::string status;           // its beginning
+    std::int64_t megabytes = -1;  // of the image that is made
+  };
   std::signal(SIGXFSZ, SIG_IGN);
   rlimit limit{};
   ::getrlimit(RLIMIT_FSIZE, &limit);
   const rlimit less{100 << 20, limit.rlim_max};
   ::setrlimit(RLIMIT_FSIZE, &less);
-  for (const auto& [name, size, status, bytes] : rows) {
+  for (const auto& [name, size, status, megabytes] : std::initializer_list<Row>{
+           {.name = "", .size = "1", .status = "You need to enter a name!"},
+           {.name = "test", .size = "20", .status = "'test.dsk' - 20 MB Done!", .megabytes = 20},
+           {.name = "zero", .size = "0", .status = "'zero.dsk' - 0 MB Done!", .megabytes = 0},
+           {.name = "usual", .size = "a", .status = "'usual.dsk' - 100 MB Done!", .megabytes = 100},
+           {.name = "old", .size = "+1", .status = "'old.dsk' - 1 MB Done!", .megabytes = 1},
+           {.name = "minus", .size = "-1", .status = "The size must be"},
+           {.name = "large", .size = "8796093022208", .status = "The size must be"},
+           {.name = "larger", .size = "99999999999999999999", .status = "The size must be"},
+           {.name = "none/x", .size = "1", .status = "Could not write 'none/x.dsk': No such file"},
+           {.name = "folder", .size = "1", .status = "Could not write 'folder.dsk': Is a dir"},
+           {.name = "fifo", .size = "1", .status = "Could not write 'fifo.dsk': "},
+           {.name = "full", .size = "101", .status = "Could not write 'full.dsk': File too"}}) {
     SCOPED_TRACE(name + " " + size);
+    const bool made = megabytes >= 0;
     openBy("bitCreate");
+    EXPECT_EQ(text("createImage"), "Create");
     typeInto("createName", name.c_str());
     typeInto("createSize", size);
     key(Qt::Key_Return);
     EXPECT_TRUE(text("createStatus").starts_with("Status: " + status)) << text("createStatus");
     const QColor color = find("createStatus")->palette().color(QPalette::WindowText);
-    const bool made = bytes >= 0;
-    EXPECT_TRUE(made ? color.blue() > color.red() : color.red() > color.blue());
+    EXPECT_EQ(color.blue() > color.red(), made) << "blue for done, red for refused";
     EXPECT_EQ(text("createImage"), made ? "Done" : "Create");
     EXPECT_EQ(fs::is_regular_file(home / (name + ".dsk")), made);
-    EXPECT_TRUE(!made || fake.home.read(name + ".dsk") == std::string(std::size_t(bytes), '\0'));
+    EXPECT_TRUE(!made || fake.home.read(name + ".dsk") ==
+                             std::string(static_cast<std::size_t>(megabytes) << 20U, '\0'));
     leave(made ? Qt::Key_Return : Qt::Key_Escape);  // Return presses Done
   }
   ::setrlimit(RLIMIT_FSIZE, &limit);
-  EXPECT_EQ(controller->volumes.volumes().size(), 0U);
+  EXPECT_EQ(controller->volumes.volumes().size(), 0U) << "images are not listed by themselves";
 }
 
 TEST_F(Windows, ThePreferencesFollowEachChoice) {
   open();
-  const std::string local = fake.home.path() + "//Quillon.app";
-  const std::string custom = " 1 start: quilCustom ";
-  const auto answer = [&](const char* path) {
-    fake.panels.answers.push_back({platform::Location::fromPath(path)});
+  tests::Golden golden("windows/choices.txt", fake.home.path());
+  const auto expectAfter = [&](const std::string& step) {
+    const std::string found = fake.said() + "Quillon is at \"" + sharedVar::pathToQuil +
+                              "\", mode " + std::to_string(sharedVar::startFlag) + ", Start is " +
+                              (sharedVar::startState ? "enabled" : "disabled") + ".\n" +
+                              frontWindow();
+    golden.expect(step, found);
   };
-  const auto reopening = [this](std::string location, int flag) {
-    return [=, this] {
-      QApplication::activeWindow() == &*window ? void() : leave(Qt::Key_Escape);
-      sharedVar::pathToQuil = location;
-      sharedVar::startFlag = flag;
-      sharedVar::startState = false;
-      openBy("openPreferences");
-    };
-  };
-  struct Row {
-    std::function<void()> act;
-    std::string state;
-    std::string said;
-  };
-  const std::string start = "started prefs..\nstart flag: ";
-  const std::vector<Row> rows = {
-      {reopening("/o/Quillon.app", 7), "/o/Quillon.app 7 -: =_",
-       start + "7\npath to quil is: /o/Quillon.app\n"},
-      {reopening("/c/Quillon.app", 1), "/c/Quillon.app" + custom + "=_",
-       start + "1\npath to quil is: /c/Quillon.app\nloaded as custom\n"},
-      {reopening("/l/Quillon.app", 2), "/l/Quillon.app 2 start: quilLocal =",
-       start + "2\npath to quil is: /l/Quillon.app\nloaded as local\n"},
-      {reopening("", 2), " 0 -: quilOff =", start + "2\npath to quil is: \nloaded as empty\n"},
-      {[&] { click("testLaunch"); }, " 0 -: quilOff =", ""},
-      {[&] { click("quilLocal"); }, local + " 2 start: quilLocal =", "PathToQuil? " + local + "\n"},
-      {[&] { click("quilOff"); }, " 0 -: quilOff =", "is empty\n"},
-      {[&] { click("quilCustom"); }, custom + "=_", "is custom, flag is 1\n"},
-      {[&] { type("/x/quillon.app"), key(Qt::Key_Return); }, custom + "=_", ""},
-      {[&] { type("/Quillon"), key(Qt::Key_Tab); }, "/Quillon" + custom + "=_", ""},
-      {[&] { answer("/y/Quillon 2"), click("chooseQuillon"); }, "/y/Quillon 2" + custom + "=_", ""},
-      {[&] { answer("/y/other"), click("chooseQuillon"); }, "/y/Quillon 2" + custom + "_", ""},
-      // As typed, not committed.
-      {[&] { typeInto("Quillon", "/bin/any"), click("testLaunch"); }, "/bin/any" + custom + "=_",
-       "<launch /bin/any>\n"}};
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    SCOPED_TRACE(row);
+  const auto open = [&](const std::string& location, std::int64_t mode) {
+    if (QApplication::activeWindow() != &*window) {
+      leave(Qt::Key_Escape);
+    }
+    sharedVar::pathToQuil = location;
+    sharedVar::startFlag = mode;
+    sharedVar::startState = false;
     fake.said();
-    rows[row].act();
-    EXPECT_EQ(state(), rows[row].state);
-    EXPECT_EQ(fake.said(), rows[row].said);
-  }
+    openBy("openPreferences");
+    expectAfter("Opened with \"" + location + "\" and mode " + std::to_string(mode));
+  };
+  const auto clickThere = [&](const char* name) {
+    click(name);
+    expectAfter(std::string("Then a click on ") + name);
+  };
+  const auto enter = [&](const char* path, Qt::Key end) {
+    typeInto("Quillon", path);
+    key(end);
+    expectAfter(std::string("Then ") + path + " is typed");
+  };
+  const auto choose = [&](const char* path) {
+    fake.panels.answers.push_back({platform::Location::fromPath(path)});
+    click("chooseQuillon");
+    expectAfter(std::string("Then ") + path + " is chosen");
+  };
+  open("/o/Quillon.app", 7);
+  open("/o/Quillon.app", 1);
+  open("/o/Quillon.app", 2);
+  open("", 2);
+  clickThere("testLaunch");
+  clickThere("quilLocal");
+  clickThere("quilOff");
+  clickThere("quilCustom");
+  enter("/x/quillon.app", Qt::Key_Return);
+  enter("/x/Quillon", Qt::Key_Tab);
+  choose("/y/Quillon 2");
+  choose("/y/other");
+  typeInto("Quillon", "/bin/any");
+  click("testLaunch");
+  expectAfter("Then /bin/any is typed and tested");
   typeInto("Quillon", "/z/Quillon.app");
   click("Done");
-  EXPECT_TRUE(fake.said().starts_with(
-      "done!\nstart? true\n/z/Quillon.app\nstartButton: true\nstartButton: /z/Quillon.app\n"
-      "startButton: 1\n"));
-  EXPECT_NE(fake.home.read(fake.settings).find("/z/Quillon.app"), std::string::npos);
+  golden.expect("Then /z/Quillon.app is typed and Done pressed", fake.said());
+  golden.expect("Stored", fake.home.read(fake.settings));
 }
 
 TEST_F(Windows, OnlyDoneAppliesAndStoresAndTheScsiTabKeepsWhatIsOnIt) {
   open();
   const std::string before = fake.home.read(fake.settings);
+  const auto done = [this] {
+    click("Done");
+    QTest::qWait(0);
+    activate(&*window);
+  };
   openBy("openPreferences");
   QWidget* const first = QApplication::activeWindow();
   window->activateWindow();
   openBy("openPreferences");
-  EXPECT_EQ(QApplication::activeWindow(), first);
+  EXPECT_EQ(QApplication::activeWindow(), first) << "there is one at a time";
   for (const char* const name : {"quilOff", "SCSItab", "quitOnStart"}) {
     click(name);
   }
@@ -181,7 +209,7 @@ TEST_F(Windows, OnlyDoneAppliesAndStoresAndTheScsiTabKeepsWhatIsOnIt) {
   EXPECT_EQ(fake.home.read(fake.settings), before);
   openBy("openPreferences");
   EXPECT_TRUE(isOn("SCSItab") && isOn("quitOnStart") && isOn("quilOff"));
-  leave();
+  done();
   EXPECT_FALSE(find("startQuil")->isEnabled());
   EXPECT_NE(fake.home.read(fake.settings), before);
   showTab("SCSI");
@@ -189,7 +217,7 @@ TEST_F(Windows, OnlyDoneAppliesAndStoresAndTheScsiTabKeepsWhatIsOnIt) {
   for (const int count : {6, 7}) {
     openBy("openPreferences");
     click("SCSItab");
-    leave();
+    done();
     EXPECT_EQ(tabs()->count(), count);
   }
   showTab("SCSI");

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <functional>
+#include <set>
+#include <string>
+
+namespace tests {
+
+/// What a person comes upon in a window, in the order of the Tab key: labels as they are written,
+/// and each control with its kind, its accessible name, what it shows, and its help. `passes` tells
+/// which widgets are described.
+inline std::string described(QWidget& window, const std::function<bool(QWidget*)>& passes) {
+  QString text;
+  QWidget* widget = &window;
+  do {
+    const QString name = widget->objectName();
+    const auto* const label = qobject_cast<QLabel*>(widget);
+    const bool isControl = !name.isEmpty() && !name.startsWith(QLatin1String("qt_")) &&
+                           widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr;
+    if (widget->isVisible() && widget->window() == window.window() && passes(widget)) {
+      if (label != nullptr && !label->text().isEmpty()) {
+        text += QLatin1String("\"%1\"\n").arg(label->text());
+      } else if (isControl) {
+        const auto* const face = QAccessible::queryAccessibleInterface(widget);
+        // A combo box is called by what it shows, unless it is asked for the name that it was
+        // given.
+        const QString given = widget->accessibleName();
+        const QString called = given.isEmpty() ? face->text(QAccessible::Name) : given;
+        const QVariant entry = widget->property("currentText");
+        const QString shown = entry.isValid()                 ? entry.toString()
+                              : widget->inherits("QLineEdit") ? widget->property("text").toString()
+                                                              : QString();
+        const auto* const button = qobject_cast<QPushButton*>(widget);
+        text += QLatin1String("%1 %2 \"%3\" %4%5%6\n")
+                    .arg(QLatin1String(widget->metaObject()->className()), name,
+                         face->text(QAccessible::Name), face->text(QAccessible::Value),
+                         QLatin1String(widget->isEnabled() ? "" : " (disabled)"),
+                         QLatin1String(button != nullptr && button->isDefault() ? " (default)"
+                                       : widget->property("checked").toBool()   ? " (on)"
+                                       : widget->property("readOnly").toBool()  ? " (read-only)"
+                                                                                : ""));
+        text += QLatin1String("    %1\n").arg(face->text(QAccessible::Description));
+      }
+    }
+    widget = widget->nextInFocusChain();
+  } while (widget != &window);
+  return text.toStdString();
+}
+
+/// The letters that lead to more than one place while Alt is held.
+inline std::string doubleLetters(QWidget& window) {
+  std::set<QString> letters;
+  QString doubles;
+  const auto add = [&](const QString& text) {
+    const QString letter = QKeySequence::mnemonic(text).toString();
+    doubles += letter.isEmpty() || letters.insert(letter).second ? QString() : text;
+  };
+  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+    if (widget->isVisible() && !widget->inherits("QLineEdit")) {
+      add(widget->property("text").toString());
+    }
+  }
+  if (const auto* const bar = window.findChild<QMenuBar*>()) {
+    for (const QAction* const menu : bar->actions()) {
+      add(menu->text());
+    }
+  }
+  return doubles.toStdString();
+}
+
+/// The entries of the menus with their keys.
+inline std::string described(const QMenuBar& bar) {
+  QString text;
+  for (const QAction* const menu : bar.actions()) {
+    text += menu->text() + QLatin1Char('\n');
+    for (const QAction* const entry : menu->menu()->actions()) {
+      text += QLatin1String("    %1 %2%3\n")
+                  .arg(entry->text(), entry->shortcut().toString(),
+                       QLatin1String(entry->isEnabled() ? "" : " (disabled)"));
+    }
+  }
+  return text.toStdString();
+}
+
+}  // namespace tests
