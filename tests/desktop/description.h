@@ -23,7 +23,9 @@ inline std::string described(QWidget& window, const std::function<bool(QWidget*)
     const auto* const label = qobject_cast<QLabel*>(widget);
     const bool isControl = !name.isEmpty() && !name.startsWith(QLatin1String("qt_")) &&
                            widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr;
-    if (widget->isVisible() && widget->window() == window.window() && passes(widget)) {
+    // The free space of the disk is another number each time.
+    const bool varies = label != nullptr && label->text().contains(QLatin1String("Free space"));
+    if (widget->isVisible() && widget->window() == window.window() && passes(widget) && !varies) {
       if (label != nullptr && !label->text().isEmpty()) {
         text += QLatin1String("\"%1\"\n").arg(label->text());
       } else if (isControl) {

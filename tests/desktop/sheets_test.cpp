@@ -22,7 +22,7 @@ TEST_F(Sheets, TheAgreementIsLeftByItsButtonsOnly) {
   EXPECT_TRUE(sheet->isVisible());
   fake.said();
   window->close();
-  EXPECT_EQ(fake.said(), "windowWillClose\n");
+  EXPECT_EQ(fake.said(), "windowWillClose\n<terminate>\n");
   click("Agree");
   EXPECT_FALSE(sheet != nullptr && sheet->isVisible());
 }

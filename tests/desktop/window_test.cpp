@@ -71,6 +71,8 @@ TEST_F(Window, ReadsAsDescribedTabByTab) {
   open("disk /a\n");
   sharedVar::scsiTabState = true;
   tellOfSettings();
+  const auto* const checks = find<QAbstractButton>("checksLine");
+  QTRY_VERIFY2(!checks->text().startsWith(QLatin1String("Checking")), "the files are looked at");
   tests::Golden golden("windows/settings.txt", fake.home.path());
   golden.expect("Menus", tests::described(*window->findChild<QMenuBar*>()));
   golden.expect("Around the tabs", tests::described(*window, [this](const QWidget* widget) {
