@@ -84,6 +84,16 @@ TEST_F(Fields, EndBeforeTheirWindowDoes) {
   };
   const std::vector<Field> fields = {{"Machine", "romFile", ""},
                                      {"Machine", "ramSizeMB", ""},
+                                     {"Display", "screenWidth", ""},
+                                     {"Display", "screenHeight", ""},
+                                     {"Sound & Input", "audioOut", ""},
+                                     {"Sound & Input", "audioMix", ""},
+                                     {"Network", "modemPort", ""},
+                                     {"Network", "printerPort", ""},
+                                     {"Network", "etherPort", ""},
+                                     {"JIT", "jitCache", ""},
+                                     {"Volumes", "unixRootPath", ""},
+                                     {"Volumes", "filename_field", ""},
                                      {"Volumes", "findSetting", ""},
                                      {"Volumes", "Quillon", "openPreferences"},
                                      {"Volumes", "createName", "bitCreate"}};

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTimer>
 #include <csignal>
@@ -28,6 +29,16 @@ void perform(QWidget* window, const QString& step) {
   }
 }
 
+// Half typed fields and an open list: what there may be when the program is ended.
+void interrupt(QWidget* window) {
+  for (QLineEdit* const field : window->findChildren<QLineEdit*>()) {
+    if (field->isEnabled() && !field->isReadOnly()) {
+      field->setText(QLatin1String("300"));
+    }
+  }
+  window->findChild<QComboBox*>(QLatin1String("ramSizeMB"))->showPopup();
+}
+
 // Runs the program in a home and a bundle, edits something and performs the steps one by one.
 int runProgram(int argc, char** argv) {
   platform::DescriptorOutput output(1);
@@ -39,7 +50,11 @@ int runProgram(int argc, char** argv) {
       auto* const field = window->findChild<QLineEdit*>(QLatin1String("romFile"));
       if (field != nullptr && next < argc) {
         field->setText(QLatin1String("/never/saved/unless/asked"));
-        return perform(window, QString::fromUtf8(argv[next++]));
+        const QString step = QString::fromUtf8(argv[next++]);
+        if (step == QLatin1String("close") || step.toInt() != 0) {
+          interrupt(window);
+        }
+        return perform(window, step);
       }
     }
   };
