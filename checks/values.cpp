@@ -7,7 +7,6 @@
 namespace checks {
 namespace {
 
-using document::Key;
 using platform::translatable;
 
 // A line can be as long as a file.

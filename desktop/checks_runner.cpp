@@ -6,7 +6,6 @@
 #include <thread>
 #include <utility>
 
-#include "app/emulator_location.h"
 #include "app/shared_var.h"
 #include "checks/findings.h"
 #include "checks/window_state.h"
@@ -55,7 +54,7 @@ ChecksRunner::Watched ChecksRunner::watched() const {
   return {controller_.saved.valuesToSave(),
           controller_.volumes.tableView.revision(),
           app::sharedVar::startState,
-          app::emulatorPath(),
+          app::sharedVar::pathToQuil,
           preferences.prefsURL,
           preferences.saveError(),
           preferences.stamp()};

@@ -1,6 +1,7 @@
 #include "document/comparison.h"
 
 #include <algorithm>
+#include <deque>
 #include <unordered_map>
 
 #include "document/key_table.h"
@@ -21,15 +22,15 @@ std::vector<ComparedLine> linesOf(std::string_view text, Fate fate) {
 }
 
 void markKept(std::vector<ComparedLine>& now, std::vector<ComparedLine>& after) {
-  std::unordered_map<std::string_view, std::vector<ComparedLine*>> open;
-  for (auto line = after.rbegin(); line != after.rend(); ++line) {
-    open[line->text].push_back(&*line);
+  std::unordered_map<std::string_view, std::deque<ComparedLine*>> open;
+  for (ComparedLine& line : after) {
+    open[line.text].push_back(&line);
   }
   for (ComparedLine& line : now) {
     auto& same = open[line.text];
     if (!same.empty()) {
-      line.fate = same.back()->fate = Fate::kept;
-      same.pop_back();
+      line.fate = same.front()->fate = Fate::kept;
+      same.pop_front();
     }
   }
 }

@@ -6,9 +6,7 @@
 
 #include "checks/findings.h"
 #include "checks/window_state.h"
-#include "editor/view_controller.h"
-#include "platform/headless.h"
-#include "platform/host.h"
+#include "program/headless_window.h"
 
 namespace program {
 namespace {
@@ -34,19 +32,8 @@ std::string onOneLine(const std::string& text) {
 int checkWithoutWindow(const std::string& homeDirectory, const std::string& configHome,
                        const platform::Bundle& bundle) {
   platform::NoOutput output;
-  platform::NoApplication application;
-  platform::NoPanels panels;
-  platform::ProcessWorkspace workspace(homeDirectory);
-  platform::NotificationCenter notifications;
-  editor::ViewController controller({homeDirectory,
-                                     configHome,
-                                     {},
-                                     bundle,
-                                     output,
-                                     panels,
-                                     workspace,
-                                     application,
-                                     notifications});
+  HeadlessWindow window(homeDirectory, configHome, bundle, output);
+  editor::ViewController& controller = window.controller;
   controller.viewDidLoad(document::Preferences::IfMissing::leave);
   const checks::State state = checks::stateOf(controller);
   const auto found = checks::findings(state, checks::gather(state));

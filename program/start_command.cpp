@@ -5,9 +5,7 @@
 
 #include "app/emulator_location.h"
 #include "app/shared_var.h"
-#include "editor/view_controller.h"
-#include "platform/headless.h"
-#include "platform/host.h"
+#include "program/headless_window.h"
 
 namespace program {
 namespace {
@@ -21,19 +19,8 @@ int fail(const std::string& reason) {
 
 int startWithoutWindow(const std::string& homeDirectory, const std::string& configHome,
                        const platform::Bundle& bundle, platform::Output& output) {
-  platform::NoApplication application;
-  platform::NoPanels panels;
-  platform::ProcessWorkspace workspace(homeDirectory);
-  platform::NotificationCenter notifications;
-  editor::ViewController controller({homeDirectory,
-                                     configHome,
-                                     {},
-                                     bundle,
-                                     output,
-                                     panels,
-                                     workspace,
-                                     application,
-                                     notifications});
+  HeadlessWindow window(homeDirectory, configHome, bundle, output);
+  editor::ViewController& controller = window.controller;
   controller.viewDidLoad();
   if (!controller.startQuil.isEnabled()) {
     return fail("Start is disabled; choose where Quillon is in the preferences");
@@ -42,8 +29,9 @@ int startWithoutWindow(const std::string& homeDirectory, const std::string& conf
   // All values are defaults then: saving would replace the file's content without anybody seeing
   // it.
   const auto result =
-      unread.empty() ? controller.saveAndLaunch()
-                     : editor::StartResult{false, workspace.launchApplication(app::emulatorPath())};
+      unread.empty()
+          ? controller.saveAndLaunch()
+          : editor::StartResult{false, window.workspace.launchApplication(app::emulatorPath())};
   if (result.saved && result.launched) {
     return 0;
   }
