@@ -286,7 +286,7 @@ void SettingsWindow::goTo(const SettingWidget& place) {
   tabs_->setCurrentIndex(tabOf(target));
   target.widget->setFocus(Qt::ShortcutFocusReason);
   if (enabler != nullptr) {
-    help_->tell(tr("\"%1\" is disabled. Turn on \"%2\" first.").arg(place.title, target.title));
+    help_->tell(tr(R"("%1" is disabled. Turn on "%2" first.)").arg(place.title, target.title));
   }
 }
 
