@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTimer>
 #include <csignal>
 
@@ -29,14 +30,19 @@ void perform(QWidget* window, const QString& step) {
   }
 }
 
-// Half typed fields and an open list: what there may be when the program is ended.
+// Half typed fields, open lists and menus: what there may be when the program is ended.
 void interrupt(QWidget* window) {
   for (QLineEdit* const field : window->findChildren<QLineEdit*>()) {
     if (field->isEnabled() && !field->isReadOnly()) {
       field->setText(QLatin1String("300"));
     }
   }
-  window->findChild<QComboBox*>(QLatin1String("ramSizeMB"))->showPopup();
+  for (QComboBox* const box : window->findChildren<QComboBox*>()) {
+    box->showPopup();
+  }
+  for (QMenu* const menu : window->findChildren<QMenu*>()) {
+    menu->popup(window->pos());
+  }
 }
 
 // Runs the program in a home and a bundle, edits something and performs the steps one by one.
