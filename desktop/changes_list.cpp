@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/plain_text.h"
 #include "desktop/setting_widgets.h"
 #include "desktop/texts.h"
 
@@ -31,9 +32,8 @@ QString volumesText(const editor::VolumeChanges& changes) {
   return parts.join(QLatin1String(", "));
 }
 
-QLabel* plainLabel(const QString& text) {
-  auto* const label = new QLabel(text);
-  label->setTextFormat(Qt::PlainText);
+QLabel* wrappedLabel(const QString& text) {
+  QLabel* const label = plainLabel(text);
   label->setWordWrap(true);
   return label;
 }
@@ -122,8 +122,8 @@ QWidget* ChangesList::table(const std::vector<Row>& rows) {
     button->setAccessibleName(tr("Put back %1").arg(row.what));
     button->setAccessibleDescription(row.how);
     connect(button, &QPushButton::clicked, this, [this, action = row.putBack] { putBack(action); });
-    grid->addWidget(plainLabel(row.what), number, 0, Qt::AlignTop);
-    grid->addWidget(plainLabel(row.how), number, 1, Qt::AlignTop);
+    grid->addWidget(wrappedLabel(row.what), number, 0, Qt::AlignTop);
+    grid->addWidget(wrappedLabel(row.how), number, 1, Qt::AlignTop);
     grid->addWidget(button, number, 2, Qt::AlignTop);
   }
   grid->setRowStretch(grid->rowCount(), 1);
