@@ -17,7 +17,7 @@ fail() {
 }
 
 checkTexts() {
-  local said options option
+  local said options option documented
   # Warnings do not show in the status of these two, and failures say something, too.
   said=$(desktop-file-validate "$desktopEntry" 2>&1) || true
   said+=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 \
@@ -28,8 +28,10 @@ checkTexts() {
     grep -v 'unknown-tag developer$') || true
   [ -z "$said" ] || fail "$said"
   options=$("$program" --help | grep -oE -- '--[a-z]+')
+  # No pipe into grep -q: with pipefail it fails when grep has found the line before sed has ended.
+  documented=$(sed 's/\\-/-/g' "$manual")
   for option in $options; do
-    sed 's/\\-/-/g' "$manual" | grep -qFx -- ".B $option" || fail "$manual lacks $option"
+    grep -qFx -- ".B $option" <<<"$documented" || fail "$manual lacks $option"
     grep -qF -- "$option" packaging/quillon-settings.bash || fail "The completion lacks $option"
   done
 }

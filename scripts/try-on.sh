@@ -19,9 +19,11 @@ fail() {
 
 # The mirror of this machine, whose releases are all in one place.
 usedMirror() {
+  local sites
   # shellcheck disable=SC2016  # apt-get expands it
-  apt-get indextargets --format '$(SITE)' 'Created-By: Packages' 'Origin: Debian' 'Label: Debian' |
-    head -n 1
+  sites=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' 'Origin: Debian' \
+    'Label: Debian')
+  echo "${sites%%$'\n'*}"
 }
 
 # Runs in name spaces of its own: what it mounts nobody else sees, and it goes with the last process.

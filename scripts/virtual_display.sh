@@ -75,7 +75,8 @@ hasWindow() {
     echo "The program ended before it showed its window." >&2
     exit $((status > 0 ? status : 1))
   fi
-  window=$(visibleWindows | head -n 1)
+  window=$(visibleWindows) || true
+  window=${window%%$'\n'*}
   [ -n "$window" ]
 }
 
@@ -173,7 +174,7 @@ program=$!
 children+=("$program")
 settings=$(dirname "$1")/../Resources/Prefs.plist
 scsi=false
-! grep -A1 '<key>SCSI Tab</key>' "$settings" | grep -q '<true/>' || scsi=true
+[[ $(grep -A1 '<key>SCSI Tab</key>' "$settings") != *'<true/>'* ]] || scsi=true
 
 waitFor 30 hasWindow || fail "The program shows no window."
 waitFor 20 hasFocus || fail "The window does not take the focus."
