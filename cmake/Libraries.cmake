@@ -3,17 +3,11 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(libplist REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(utf8proc REQUIRED IMPORTED_TARGET libutf8proc)
 
-# Two calls changed between libplist 2.2 and 2.6. Which ones are there is asked of the library
-# itself, and platform/plist_compat.h makes those.
-include(CheckCXXSourceCompiles)
+# One call changed between libplist 2.2 and 2.6. Which one is there is asked of the library itself,
+# and platform/plist_compat.h makes it.
 include(CheckCXXSymbolExists)
 set(CMAKE_REQUIRED_LIBRARIES PkgConfig::libplist)
 check_cxx_symbol_exists(plist_mem_free plist/plist.h PLIST_HAS_MEM_FREE)
-check_cxx_source_compiles("
-  #include <plist/plist.h>
-  int main() { plist_from_memory(nullptr, 0, nullptr, nullptr); }
-" PLIST_TELLS_FORMAT)
 unset(CMAKE_REQUIRED_LIBRARIES)
 target_compile_definitions(PkgConfig::libplist INTERFACE
-  PLIST_HAS_MEM_FREE=$<BOOL:${PLIST_HAS_MEM_FREE}>
-  PLIST_TELLS_FORMAT=$<BOOL:${PLIST_TELLS_FORMAT}>)
+  PLIST_HAS_MEM_FREE=$<BOOL:${PLIST_HAS_MEM_FREE}>)

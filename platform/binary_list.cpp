@@ -125,9 +125,11 @@ class BinaryList {
 
 }  // namespace
 
+bool isBinary(std::string_view content) { return content.starts_with(magic); }
+
 bool isHarmless(std::string_view content, std::size_t limit) {
-  return content.starts_with(magic) ? BinaryList(content, limit).isHarmless()
-                                    : content.find('\0') == content.npos;
+  return isBinary(content) ? BinaryList(content, limit).isHarmless()
+                           : content.find('\0') == content.npos;
 }
 
 }  // namespace platform

@@ -17,6 +17,19 @@ constexpr std::size_t sizeLimit = std::size_t{64} * 1024;
 constexpr std::size_t expandedLimit = std::size_t{1024} * 1024;
 constexpr std::size_t mostLevels = 64;  // of dictionaries and arrays within each other
 
+// Read for what it is, and not with plist_from_memory(): libplist 2.3 and later then also take JSON
+// and OpenStep texts, which nobody has seen to be harmless.
+plist_t parse(const std::string& bytes) {
+  plist_t root = nullptr;
+  const auto size = static_cast<std::uint32_t>(bytes.size());
+  if (isBinary(bytes)) {
+    plist_from_bin(bytes.data(), size, &root);
+  } else {
+    plist_from_xml(bytes.data(), size, &root);
+  }
+  return root;
+}
+
 // A binary list can hold a key twice. libplist then reads another of the two values after the list
 // has been written as XML.
 bool holdsAKeyTwice(plist_t dictionary) {
@@ -83,7 +96,7 @@ std::optional<PropertyList> PropertyList::read(const std::string& path, std::err
   if (!bytes) {
     return std::nullopt;
   }
-  const plist_t root = isHarmless(*bytes, expandedLimit) ? plistFromMemory(*bytes) : nullptr;
+  const plist_t root = isHarmless(*bytes, expandedLimit) ? parse(*bytes) : nullptr;
   PropertyList list(root);
   if (plist_get_node_type(root) != PLIST_DICT || holdsAKeyTwice(root) ||
       isNestedDeeper(root, mostLevels) || !list.xml()) {

@@ -14,9 +14,8 @@ class PropertyList {
  public:
   PropertyList();
 
-  /// Reads XML, binary and whatever else the library knows. None, with the reason in `error`, when
-  /// the file cannot be read, holds more than 64 KiB or 64 levels, or is no dictionary that can be
-  /// written again.
+  /// Reads the XML and the binary format. None, with the reason in `error`, when the file cannot be
+  /// read, holds more than 64 KiB or 64 levels, or is no dictionary that can be written again.
   static std::optional<PropertyList> read(const std::string& path, std::error_code& error);
 
   /// The value of a key; none when the key is missing or its value has another type.

@@ -82,6 +82,11 @@ TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
     }
     return with("<real>1.5</real>", lists);
   };
+  // Newer versions of the library know these formats, too.
+  const std::string openStep =
+      R"({"Quillon.app location" = "/Q"; "Start Button Enabled" = 0; "Start Flag" = 1;})";
+  const std::string json =
+      R"({"Quillon.app location": "/Q", "Start Button Enabled": false, "Start Flag": 1})";
   // clang-format off
   const std::vector<Row> rows = {
       {.what = "64 levels", .content = nested(64), .loaded = own, .told = 0},
@@ -98,6 +103,8 @@ TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
       {.what = "garbage", .content = "garbage"},
       {.what = "half a list", .content = file.substr(0, 200)},
       {.what = "half a binary list", .content = binary(file).substr(0, 100)},
+      {.what = "OpenStep", .content = openStep},
+      {.what = "JSON", .content = json},
       {.what = "a list without keys", .content = "<plist><array/></plist>"},
       {.what = "more than 64 KiB", .content = file + std::string(1 << 16, ' ')}};
   // clang-format on
