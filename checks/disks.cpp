@@ -44,27 +44,29 @@ constexpr std::array<Problem, 6> problems = {{
      [](const FileFact& image) { return !image.isWritable; }},
 }};
 
-std::string firstOf(const std::vector<std::string>& paths) {
+using Indexes = std::vector<std::size_t>;
+
+std::string firstOf(const State& state, const Indexes& images) {
   std::string list;
-  for (std::size_t index = 0; index < std::min(paths.size(), mostNamed); ++index) {
-    list.append(index == 0 ? "" : ", ").append(paths[index]);
+  for (std::size_t number = 0; number < std::min(images.size(), mostNamed); ++number) {
+    list.append(number == 0 ? "" : ", ").append(state.disks[images[number]]);
   }
-  return paths.size() > mostNamed ? list + ", …" : list;
+  return images.size() > mostNamed ? list + ", …" : list;
 }
 
-// The paths of each file that stands in the list more than once.
-std::vector<std::vector<std::string>> sameFiles(const State& state, const Facts& facts) {
-  std::map<std::pair<std::uint64_t, std::uint64_t>, std::vector<std::string>> byFile;
+// The entries of each file that stands in the list more than once.
+std::vector<Indexes> sameFiles(const State& state, const Facts& facts) {
+  std::map<std::pair<std::uint64_t, std::uint64_t>, Indexes> byFile;
   for (std::size_t index = 0; index < state.disks.size(); ++index) {
     const FileFact& image = facts.disks.at(index);
     if (image.kind == Kind::file || image.kind == Kind::other) {
-      byFile[{image.stamp.device, image.stamp.inode}].push_back(state.disks[index]);
+      byFile[{image.stamp.device, image.stamp.inode}].push_back(index);
     }
   }
-  std::vector<std::vector<std::string>> several;
-  for (auto& [file, paths] : byFile) {
-    if (paths.size() > 1) {
-      several.push_back(std::move(paths));
+  std::vector<Indexes> several;
+  for (auto& [file, images] : byFile) {
+    if (images.size() > 1) {
+      several.push_back(std::move(images));
     }
   }
   return several;
@@ -77,31 +79,30 @@ void checkDisks(const State& state, const Facts& facts, Collector& found) {
     found.add(Level::warning, Place::diskImages,
               translatable("Checks", "There is no disk image in the list."));
   }
-  std::array<std::vector<std::string>, problems.size()> concerned;
+  std::array<Indexes, problems.size()> concerned;
   for (std::size_t index = 0; index < state.disks.size(); ++index) {
     const auto* const problem = std::find_if(
         problems.begin(), problems.end(),
         [&](const Problem& candidate) { return candidate.concerns(facts.disks.at(index)); });
     if (problem != problems.end()) {
-      concerned.at(static_cast<std::size_t>(problem - problems.begin()))
-          .push_back(state.disks[index]);
+      concerned.at(static_cast<std::size_t>(problem - problems.begin())).push_back(index);
     }
   }
-  for (const auto& paths : sameFiles(state, facts)) {
-    found.add(Level::warning, Place::diskImages,
-              translatable("Checks",
-                           "%1 disk images are one and the same file, which two writers "
-                           "would damage: %2."),
-              std::to_string(paths.size()), firstOf(paths));
+  for (const Indexes& images : sameFiles(state, facts)) {
+    found.addImages(Level::warning, images.front(),
+                    translatable("Checks",
+                                 "%1 disk images are one and the same file, which two writers "
+                                 "would damage: %2."),
+                    std::to_string(images.size()), firstOf(state, images));
   }
   for (std::size_t index = 0; index < problems.size(); ++index) {
-    const std::vector<std::string>& paths = concerned.at(index);
+    const Indexes& images = concerned.at(index);
     const Problem& problem = problems.at(index);
-    if (paths.size() == 1) {
-      found.add(problem.level, Place::diskImages, problem.one, paths.front());
-    } else if (paths.size() > 1) {
-      found.add(problem.level, Place::diskImages, problem.many, std::to_string(paths.size()),
-                std::to_string(state.disks.size()), firstOf(paths));
+    if (images.size() == 1) {
+      found.addImages(problem.level, images.front(), problem.one, state.disks[images.front()]);
+    } else if (images.size() > 1) {
+      found.addImages(problem.level, images.front(), problem.many, std::to_string(images.size()),
+                      std::to_string(state.disks.size()), firstOf(state, images));
     }
   }
 }

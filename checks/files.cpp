@@ -61,6 +61,8 @@ void checkRom(const State& state, const Facts& facts, Collector& found) {
     stop(translatable("Checks", "The ROM file \"%1\" cannot be reached: %2."), path, rom.error);
   } else if (rom.kind == Kind::folder) {
     stop(translatable("Checks", "The ROM file \"%1\" is a folder."), path);
+  } else if (rom.kind == Kind::other) {
+    stop(translatable("Checks", "The ROM file \"%1\" is a device and no file."), path);
   } else if (!rom.isReadable) {
     stop(translatable("Checks", "There is no permission to read the ROM file \"%1\"."), path);
   } else if (!isRomSize(rom.stamp.size)) {
@@ -125,7 +127,13 @@ void checkPreferencesFile(const State& state, const Facts& facts, Collector& fou
     stop(translatable("Checks", "The preferences file \"%1\" cannot be written: a save will fail."),
          *file.path);
   }
-  if (file.stamp && fact.kind == Kind::nothing) {
+  if (!file.stamp && file.readError.empty() && fact.kind == Kind::file) {
+    found.add(Level::warning, Place::preferencesFile,
+              translatable("Checks",
+                           "The preferences file \"%1\" exists and has not been read. A save "
+                           "replaces what is in it."),
+              *file.path);
+  } else if (file.stamp && fact.kind == Kind::nothing) {
     stop(translatable("Checks",
                       "The preferences file \"%1\" has been removed by another program. "
                       "A save makes it anew."),

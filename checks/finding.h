@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -41,6 +42,7 @@ struct Finding {
   Level level;
   Subject subject;
   Text text;
+  std::optional<std::size_t> image{};  // the first disk image that it is about, as an index
 };
 
 /// The context of the formats for translators.

@@ -19,6 +19,12 @@ class Collector {
     found_.push_back({level, subject, {format, {Argument(std::move(arguments))...}}});
   }
 
+  template <typename... Arguments>
+  void addImages(Level level, std::size_t first, const char* format, Arguments... arguments) {
+    add(level, Place::diskImages, format, std::move(arguments)...);
+    found_.back().image = first;
+  }
+
   [[nodiscard]] std::vector<Finding> take() { return std::move(found_); }
 
  private:

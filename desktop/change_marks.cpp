@@ -1,17 +1,13 @@
 #include "desktop/change_marks.h"
 
-#include <QAbstractEventDispatcher>
 #include <QFont>
 #include <algorithm>
 
 namespace desktop {
+
 ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Marked& marked)
     : controller_(controller), marked_(marked) {
-  const auto* const dispatcher = QAbstractEventDispatcher::instance();
-  for (const auto signal :
-       {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake}) {
-    connect(dispatcher, signal, this, &ChangeMarks::update);
-  }
+  update();
 }
 
 void ChangeMarks::update() {

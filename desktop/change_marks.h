@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QObject>
 #include <QWidget>
 
 #include "desktop/setting_widgets.h"
@@ -9,11 +8,8 @@
 
 namespace desktop {
 
-/// Shows what a save would change: labels in bold, a mark in the window's title. That is found by
-/// comparing, each time that Qt's event loop wakes up or is about to wait.
-class ChangeMarks : public QObject {
-  Q_OBJECT
-
+/// Shows what a save would change: labels in bold, a mark in the window's title, a count.
+class ChangeMarks {
  public:
   /// The widgets that show it. They stay for as long as this object is there.
   struct Marked {
@@ -25,9 +21,10 @@ class ChangeMarks : public QObject {
 
   ChangeMarks(const editor::ViewController& controller, const Marked& marked);
 
- private:
+  /// Shows the state of now.
   void update();
 
+ private:
   const editor::ViewController& controller_;
   Marked marked_;
 };

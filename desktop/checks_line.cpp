@@ -10,8 +10,9 @@ namespace desktop {
 
 ChecksLine::ChecksLine() : sentence_(tr("Checking the files…")) {
   setObjectName(QLatin1String("checksLine"));
-  setFlat(true);
-  setAutoDefault(false);
+  setAutoRaise(true);
+  setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  setFocusPolicy(Qt::StrongFocus);
   const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
   setIconSize(QSize(icon, icon));
   // As high with the icon as without, and never wider than the window.
@@ -52,7 +53,7 @@ void ChecksLine::showText() {
 }
 
 void ChecksLine::resizeEvent(QResizeEvent* event) {
-  QPushButton::resizeEvent(event);
+  QToolButton::resizeEvent(event);
   showText();
 }
 

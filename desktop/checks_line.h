@@ -1,14 +1,16 @@
 #pragma once
 
-#include <QPushButton>
+#include <QToolButton>
 #include <vector>
 
 #include "checks/finding.h"
 
 namespace desktop {
 
-/// The gravest finding and how many more there are, in one line that opens the list of them.
-class ChecksLine : public QPushButton {
+/// The gravest finding and how many more there are, in one line that opens the list of them. It is
+/// a tool button because styles begin the text of those at their icon; that of push buttons they
+/// put into the middle.
+class ChecksLine : public QToolButton {
   Q_OBJECT
 
  public:

@@ -9,7 +9,7 @@
 
 namespace desktop {
 
-ChecksList::ChecksList(std::function<void(const checks::Subject&)> go, QWidget* parent)
+ChecksList::ChecksList(std::function<void(const checks::Finding&)> go, QWidget* parent)
     : QDialog(parent), list_(new QListWidget) {
   setObjectName(QLatin1String("checksWindow"));
   setWindowTitle(tr("What to Look At Before Starting"));
@@ -23,9 +23,9 @@ ChecksList::ChecksList(std::function<void(const checks::Subject&)> go, QWidget* 
     const auto row = static_cast<std::size_t>(list_->currentRow());
     // Where one click activates, a click comes twice.
     if (isVisible() && row < findings_.size()) {
-      const checks::Subject subject = findings_[row].subject;
+      const checks::Finding finding = findings_[row];
       close();
-      go(subject);
+      go(finding);
     }
   });
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);

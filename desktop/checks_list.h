@@ -15,7 +15,7 @@ class ChecksList : public QDialog {
 
  public:
   /// `go` shows what a finding is about.
-  ChecksList(std::function<void(const checks::Subject&)> go, QWidget* parent);
+  ChecksList(std::function<void(const checks::Finding&)> go, QWidget* parent);
 
   void show(const std::vector<checks::Finding>& findings);
   using QDialog::show;

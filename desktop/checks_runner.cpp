@@ -1,12 +1,10 @@
 #include "desktop/checks_runner.h"
 
-#include <QAbstractEventDispatcher>
 #include <mutex>
 #include <system_error>
 #include <thread>
 #include <utility>
 
-#include "app/shared_var.h"
 #include "checks/findings.h"
 #include "checks/window_state.h"
 
@@ -39,40 +37,11 @@ ChecksRunner::~ChecksRunner() {
   mailbox_->receiver = nullptr;
 }
 
-void ChecksRunner::start() {
-  if (!std::exchange(started_, true)) {
-    const auto* const dispatcher = QAbstractEventDispatcher::instance();
-    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, &ChecksRunner::follow);
-    connect(dispatcher, &QAbstractEventDispatcher::awake, this, &ChecksRunner::follow);
-    watched_ = watched();
-    gather();
-  }
-}
-
-ChecksRunner::Watched ChecksRunner::watched() const {
-  const document::Preferences& preferences = controller_.preferences;
-  return {controller_.saved.valuesToSave(),
-          controller_.volumes.tableView.revision(),
-          app::sharedVar::startState,
-          app::sharedVar::pathToQuil,
-          preferences.prefsURL,
-          preferences.saveError(),
-          preferences.stamp()};
-}
-
-void ChecksRunner::follow() {
-  Watched now = watched();
-  if (now != watched_) {
-    watched_ = std::move(now);
-    gather();
-  }
-}
-
 void ChecksRunner::lookAgain() {
   if (isWaiting_) {
     // What is under way may have passed a file before it changed. Another thread beside one that
     // hangs would hang as well.
-    again_ = started_;
+    again_ = isStarted();
   } else {
     gather();
   }

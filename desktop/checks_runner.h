@@ -2,11 +2,8 @@
 
 #include <QObject>
 #include <QTimer>
-#include <array>
 #include <functional>
 #include <memory>
-#include <optional>
-#include <string>
 #include <vector>
 
 #include "checks/facts.h"
@@ -28,9 +25,9 @@ class ChecksRunner : public QObject {
   ChecksRunner(const editor::ViewController& controller, FactsSource source);
   ~ChecksRunner() override;
 
-  /// From now on the findings follow the state of the window.
-  void start();
-  [[nodiscard]] bool isStarted() const { return started_; }
+  /// Gathers facts for the first time, or about a state that has changed.
+  void gather();
+  [[nodiscard]] bool isStarted() const { return newest_ > 0; }
 
   /// Gathers the facts anew, since files may have changed.
   void lookAgain();
@@ -46,23 +43,8 @@ class ChecksRunner : public QObject {
   void changed();
 
  private:
-  /// All that findings depend on and that is quickly compared.
-  struct Watched {
-    std::array<std::string, document::keyCount> values;
-    std::size_t volumes = 0;  // the revision of the table
-    bool isStartEnabled = false;
-    std::string pathToQuil;
-    std::optional<platform::Location> prefsURL;
-    std::string saveError;
-    std::optional<platform::FileStamp> stamp;
-
-    friend bool operator==(const Watched&, const Watched&) = default;
-  };
   struct Mailbox;
 
-  [[nodiscard]] Watched watched() const;
-  void follow();
-  void gather();
   void receive(std::size_t number, std::vector<checks::Finding> found);
   void showWithoutFacts();
 
@@ -70,11 +52,9 @@ class ChecksRunner : public QObject {
   FactsSource source_;
   std::shared_ptr<Mailbox> mailbox_;  // also held by the threads, which may outlive this object
   QTimer patience_;
-  Watched watched_;
   std::vector<checks::Finding> findings_;
   std::size_t newest_ = 0;   // number of the gathering begun last
   std::size_t running_ = 0;  // gatherings that have not come back
-  bool started_ = false;
   bool isWaiting_ = true;
   bool again_ = false;  // once one of them comes back
 };

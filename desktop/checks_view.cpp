@@ -32,7 +32,7 @@ void pointOut(QWidget* widget) {
 ChecksView::ChecksView(const editor::ViewController& controller, FactsSource source, Window window)
     : window_(std::move(window)), runner_(controller, std::move(source)) {
   connect(&runner_, &ChecksRunner::changed, this, &ChecksView::show);
-  connect(window_.line, &QPushButton::clicked, this, &ChecksView::openList);
+  connect(window_.line, &ChecksLine::clicked, this, &ChecksView::openList);
   window_.itself->installEventFilter(this);
 }
 
@@ -44,6 +44,12 @@ bool ChecksView::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
+void ChecksView::refresh() {
+  if (runner_.isStarted()) {
+    runner_.gather();
+  }
+}
+
 void ChecksView::show() {
   window_.line->show(runner_.findings(), !runner_.isWaiting());
   if (list_ != nullptr) {
@@ -51,6 +57,7 @@ void ChecksView::show() {
   }
   markTabs();
   describeControls();
+  emit changed();
 }
 
 QWidget* ChecksView::widgetOf(const checks::Subject& subject) const {
@@ -107,7 +114,8 @@ void ChecksView::describeControls() {
   for (SettingWidget& place : window_.settings) {
     place.findings = found[place.widget].join(QLatin1Char(' '));
   }
-  for (QWidget* const widget : {window_.fileField, window_.volumes, window_.preferencesButton}) {
+  for (QWidget* const widget : std::initializer_list<QWidget*>{window_.fileField, window_.volumes,
+                                                               window_.preferencesButton}) {
     const QString always = widget->whatsThis().isEmpty() ? widget->toolTip() : widget->whatsThis();
     widget->setAccessibleDescription((found[widget] << always).join(QLatin1Char(' ')));
   }
@@ -119,7 +127,7 @@ void ChecksView::openList() {
     return;
   }
   if (list_ == nullptr) {
-    list_ = new ChecksList([this](const checks::Subject& subject) { go(subject); }, window_.itself);
+    list_ = new ChecksList([this](const checks::Finding& finding) { go(finding); }, window_.itself);
   }
   list_->show(runner_.findings());
   list_->show();
@@ -127,15 +135,20 @@ void ChecksView::openList() {
   list_->activateWindow();
 }
 
-void ChecksView::go(const checks::Subject& subject) {
-  const bool isElsewhere = subject == checks::Subject(checks::Place::quillon);
-  QWidget* const widget = isElsewhere ? window_.showLocation() : widgetOf(subject);
+void ChecksView::go(const checks::Finding& finding) {
+  const bool isElsewhere = finding.subject == checks::Subject(checks::Place::quillon);
+  QWidget* const widget = isElsewhere ? window_.showLocation() : widgetOf(finding.subject);
   if (const int tab = tabOf(widget); tab >= 0) {
     window_.tabs->setCurrentIndex(tab);
     qobject_cast<QScrollArea*>(window_.tabs->widget(tab))->ensureWidgetVisible(widget);
   }
   widget->window()->activateWindow();
   widget->setFocus(Qt::ShortcutFocusReason);
+  if (finding.image) {
+    const QModelIndex row = window_.volumes->model()->index(static_cast<int>(*finding.image), 0);
+    window_.volumes->setCurrentIndex(row);
+    window_.volumes->scrollTo(row);
+  }
   pointOut(widget);
 }
 

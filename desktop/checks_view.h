@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemView>
 #include <QObject>
 #include <QPointer>
 #include <QTabWidget>
@@ -25,7 +26,7 @@ class ChecksView : public QObject {
     QTabWidget* tabs;
     SettingWidgets& settings;  // more are added while the pages are being made
     QWidget* fileField;
-    QWidget* volumes;
+    QAbstractItemView* volumes;
     QWidget* preferencesButton;
     std::function<QWidget*()> showLocation;  // opens what shows where Quillon is
   };
@@ -33,11 +34,18 @@ class ChecksView : public QObject {
   ChecksView(const editor::ViewController& controller, FactsSource source, Window window);
 
   /// Begins to check; called when the window has been painted and has all its pages.
-  void start() { runner_.start(); }
+  void start() { runner_.gather(); }
   [[nodiscard]] bool isStarted() const { return runner_.isStarted(); }
+
+  /// Checks a state that has changed.
+  void refresh();
 
   /// Marks the tabs with findings once more, after they have come anew.
   void markTabs();
+
+ signals:
+  /// The findings are other ones than before.
+  void changed();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,7 +54,7 @@ class ChecksView : public QObject {
   void show();
   void describeControls();
   void openList();
-  void go(const checks::Subject& subject);
+  void go(const checks::Finding& finding);
   [[nodiscard]] QWidget* widgetOf(const checks::Subject& subject) const;
   [[nodiscard]] int tabOf(const QWidget* widget) const;
 

@@ -64,10 +64,20 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
-  changeMarks_.emplace(controller,
-                       ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, unsaved_});
+  followState();
   controller.viewWillAppear(delegate_);
   tabs_->setFocus();
+}
+
+void SettingsWindow::followState() {
+  changeMarks_.emplace(controller_,
+                       ChangeMarks::Marked{this, settingWidgets_, volumesLabel_, unsaved_});
+  watch_.emplace(controller_);
+  connect(&*watch_, &StateWatch::changed, this, [this] {
+    changeMarks_->update();
+    checks_->refresh();
+  });
+  connect(&*checks_, &ChecksView::changed, this, [this] { changeMarks_->update(); });
 }
 
 // Every area is added here once, so that it is a child of the window even when its tab is not
@@ -120,6 +130,9 @@ void SettingsWindow::completePages() {
     }
   }
   requireEverySetting(settingWidgets_);
+  if (changeMarks_) {
+    changeMarks_->update();
+  }
 }
 
 // A person sees one page first. The others are made, and files are looked at, once it is on the
@@ -202,7 +215,7 @@ ChecksView::Window SettingsWindow::checkedWindow(ChecksLine* line) {
           tabs_,
           settingWidgets_,
           fileField_,
-          qobject_cast<QLabel*>(volumesLabel_)->buddy(),
+          qobject_cast<QAbstractItemView*>(qobject_cast<QLabel*>(volumesLabel_)->buddy()),
           preferencesButton_,
           showLocation};
 }

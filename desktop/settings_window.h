@@ -15,6 +15,7 @@
 #include "desktop/menus.h"
 #include "desktop/preferences_window.h"
 #include "desktop/setting_widgets.h"
+#include "desktop/state_watch.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
 #include "volumes/image_folder.h"
@@ -39,6 +40,7 @@ class SettingsWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void followState();
   void addPages();
   void fillPage(editor::TabId id);
   [[nodiscard]] QWidget* topRow();
@@ -78,6 +80,7 @@ class SettingsWindow : public QMainWindow {
   QWidget* preferencesButton_ = nullptr;
   std::optional<ChangeMarks> changeMarks_;
   std::optional<ChecksView> checks_;
+  std::optional<StateWatch> watch_;
   platform::Subscription tabsShown_;
   platform::Subscription startShown_;
 };
