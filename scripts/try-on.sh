@@ -8,6 +8,8 @@
 # "try-on.sh trixie i386 './test.sh --core'" runs another command. This machine must be able to run
 # programs of that architecture. Only root can do all this. Packages come from the mirror that
 # this machine uses, or from MIRROR.
+#
+# The status is that of the command; 75 says that there was no such system to run it in.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 . "$root/scripts/packages.sh"
@@ -15,6 +17,12 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 fail() {
   echo "$*" >&2
   exit 1
+}
+
+# For reasons that say nothing about the program.
+giveUp() {
+  echo "$*" >&2
+  exit 75
 }
 
 # The mirror of this machine, whose releases are all in one place.
@@ -26,12 +34,31 @@ usedMirror() {
   echo "${sites%%$'\n'*}"
 }
 
+# How this machine gets its packages is how that system gets them, too: through a proxy, or from a
+# mirror whose lists are older than they may be.
+aptOptions() {
+  echo 'Acquire::Retries "3";'
+  apt-config dump | grep -E '^Acquire::(https?::Proxy|Check-(Date|Valid-Until)) ' || true
+}
+
+# Makes the system; $1 is its folder. What is thrown away need not survive a power failure.
+makeSystem() {
+  local left=3
+  aptOptions >"$scratch/apt.conf"
+  until quietly mmdebstrap --variant=apt --architectures="$3" --aptopt="$scratch/apt.conf" \
+    --dpkgopt=force-unsafe-io --include=git,sudo,passwd,ca-certificates "$2" "$1" "$MIRROR"; do
+    rm -rf --one-file-system "$1"
+    [ $((--left)) -gt 0 ] || return 1
+    sleep 20  # a mirror is perhaps about to be brought up to date
+  done
+}
+
 # Runs in name spaces of its own: what it mounts nobody else sees, and it goes with the last process.
 makeAndEnter() {
   local system=$1 release=$2 architecture=$3 command=$4
   local home=$system/home/tester
-  mmdebstrap --quiet --variant=apt --architectures="$architecture" \
-    --include=git,sudo,passwd,ca-certificates "$release" "$system" "$MIRROR"
+  makeSystem "$system" "$release" "$architecture" ||
+    giveUp "There is no $release for $architecture to be had here: nothing was tried on it."
   cp /etc/resolv.conf "$system/etc/resolv.conf"
   chroot "$system" useradd --create-home --shell /bin/bash tester
   echo 'tester ALL=(ALL) NOPASSWD: ALL' >"$system/etc/sudoers.d/tester"
@@ -61,12 +88,15 @@ fi
 [ $# -ge 1 ] || fail "Name a release: $(sed -n 's/^#   //p' "$0")"
 [ "$(id -u)" -eq 0 ] || fail "Only root can make another system."
 installMissing mmdebstrap git
+unshare --mount --propagation private --pid --fork true ||
+  giveUp "No name spaces can be made here (in a container, perhaps): nothing was tried."
 MIRROR=${MIRROR:-$(usedMirror)}
 [ -n "$MIRROR" ] || fail "There are no package lists of Debian here; name a mirror in MIRROR."
 export MIRROR
 
 # Not in /tmp, which may be mounted so that sudo does not work there.
 scratch=$(mktemp -d /var/tmp/try-on.XXXXXX)
+export scratch
 chmod 755 "$scratch"
 trap cleanUp EXIT
 trap 'exit 143' INT TERM HUP

@@ -44,6 +44,8 @@ class Volumes : public tests::WindowTest {
 };
 
 TEST_F(Volumes, ShowsAPictureAPathASizeAndAKind) {
+  const std::string picture = "QuillonSettings.app/Contents/Resources/HappyMac.png";
+  std::filesystem::copy_file(QUILLON_SOURCE "/resources/HappyMac.png", fake.home.path(picture));
   const std::string image = fake.home.write("a <b>.dsk", std::string(1'474'560, '\0'));
   open("disk " + image + "\ndisk here.dsk\n");
   table = find<QTableView>("tableView");
@@ -54,7 +56,7 @@ TEST_F(Volumes, ShowsAPictureAPathASizeAndAKind) {
   EXPECT_EQ(text(0, 1), "1.5 MB");
   EXPECT_EQ(text(0, 2), "Disk Image");
   EXPECT_EQ(text(1, 2), "No Path!");
-  EXPECT_FALSE(cell(0).data(Qt::DecorationRole).value<QIcon>().isNull());
+  EXPECT_FALSE(cell(0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).isNull());
   EXPECT_FALSE(cell(0, 1).data(Qt::DecorationRole).isValid());
   const QStringList titles = {"Disk image", "Size", "Kind"};
   for (int column = 0; column < titles.size(); ++column) {
