@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -26,16 +27,33 @@ std::vector<Location> locationsOf(const QFileDialog& dialog) {
   return locations;
 }
 
-void setTypes(QFileDialog& dialog, const std::vector<std::string>& types) {
-  if (types.empty()) {
-    return;
+// Qt makes the widgets of its own dialog at once, and none where the desktop shows one.
+bool isNative(const QFileDialog& dialog) { return dialog.layout() == nullptr; }
+
+// Qt's own dialog matches endings without regard to case; for those of desktops each letter has to
+// stand in the pattern in both.
+QString patternFor(const std::string& type, bool bothCases) {
+  QString pattern = QLatin1String("*.");
+  for (const QChar letter : toQString(type)) {
+    if (bothCases && letter.isLetter()) {
+      pattern += QLatin1Char('[') + letter.toLower() + letter.toUpper() + QLatin1Char(']');
+    } else {
+      pattern += letter;
+    }
   }
+  return pattern;
+}
+
+QString filterOf(const QString& name, const QStringList& patterns) {
+  return QLatin1String("%1 (%2)").arg(name, patterns.join(QLatin1Char(' ')));
+}
+
+void setTypes(QFileDialog& dialog, const std::vector<std::string>& types) {
   QStringList patterns;
   for (const std::string& type : types) {
-    patterns.append(QLatin1String("*.") + toQString(type));
+    patterns.append(patternFor(type, isNative(dialog)));
   }
-  dialog.setNameFilter(tr("Disk images") + QLatin1String(" (") + patterns.join(QLatin1Char(' ')) +
-                       QLatin1Char(')'));
+  dialog.setNameFilter(filterOf(tr("Disk images"), patterns));
   dialog.setOption(QFileDialog::HideNameFilterDetails);
 }
 
@@ -72,15 +90,22 @@ template <typename Dialog = QFileDialog>
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
   auto dialog =
       std::make_unique<Dialog>(window, QCoreApplication::translate("Panels", title.c_str()));
-  // Qt's own dialog matches endings without regard to case; those of some desktops do not.
-  dialog->setOption(QFileDialog::DontUseNativeDialog);
   keepMessagesPlain(dialog.get());
+  return dialog;
+}
+
+// For what the dialogs of desktops cannot do.
+template <typename Dialog = QFileDialog>
+std::unique_ptr<QFileDialog> makeOwnDialog(QWidget* window, const std::string& title) {
+  auto dialog = makeDialog<Dialog>(window, title);
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
   return dialog;
 }
 
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPanel& panel) {
   const bool both = panel.canChooseDirectories && panel.canChooseFiles;
-  auto dialog = both ? makeDialog<AnyDialog>(window, panel.title) : makeDialog(window, panel.title);
+  auto dialog =
+      both ? makeOwnDialog<AnyDialog>(window, panel.title) : makeDialog(window, panel.title);
   dialog->setAcceptMode(QFileDialog::AcceptOpen);
   if (panel.canChooseDirectories) {
     dialog->setFileMode(QFileDialog::Directory);
@@ -90,9 +115,10 @@ std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const platform::OpenPan
                                                       : QFileDialog::ExistingFile);
   }
   dialog->setOption(QFileDialog::ReadOnly, !panel.canCreateDirectories);
-  setTypes(*dialog, panel.allowedFileTypes);
-  if (!panel.directory.empty()) {
-    dialog->setDirectory(toQString(panel.directory));
+  if (!panel.allowedFileTypes.empty()) {
+    setTypes(*dialog, panel.allowedFileTypes);
+    dialog->setNameFilters(dialog->nameFilters()
+                           << filterOf(tr("All files"), {QLatin1String("*")}));
   }
   return dialog;
 }
@@ -127,15 +153,28 @@ QWidget* Panels::front() const {
   return window_;
 }
 
+// Where nothing is set it opens in the folder in which something was chosen last.
+std::unique_ptr<QFileDialog> Panels::prepare(const platform::OpenPanel& panel) {
+  auto dialog = makeDialog(front(), panel);
+  if (!panel.directory.empty()) {
+    dialog->setDirectory(toQString(panel.directory));
+  } else {
+    dialog->setDirectory(folder_->isEmpty() ? QDir::homePath() : *folder_);
+  }
+  QObject::connect(dialog.get(), &QFileDialog::fileSelected,
+                   [folder = folder_](const QString& file) { *folder = QFileInfo(file).path(); });
+  return dialog;
+}
+
 std::vector<Location> Panels::runModal(const platform::OpenPanel& panel) {
-  const auto dialog = makeDialog(front(), panel);
+  const auto dialog = prepare(panel);
   return dialog->exec() == QDialog::Accepted ? locationsOf(*dialog) : std::vector<Location>();
 }
 
 void Panels::begin(const platform::OpenPanel& panel, Chosen completion) {
   QPointer<QFileDialog>& open = open_[panel.asker];
   if (open == nullptr || !open->isVisible()) {
-    open = desktop::begin(makeDialog(front(), panel), Qt::NonModal, std::move(completion));
+    open = desktop::begin(prepare(panel), Qt::NonModal, std::move(completion));
   }
   open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
   open->raise();
@@ -143,11 +182,11 @@ void Panels::begin(const platform::OpenPanel& panel, Chosen completion) {
 }
 
 void Panels::beginSheet(const platform::OpenPanel& panel, Chosen completion) {
-  desktop::begin(makeDialog(front(), panel), Qt::WindowModal, std::move(completion));
+  desktop::begin(prepare(panel), Qt::WindowModal, std::move(completion));
 }
 
 void Panels::beginSheet(const platform::SavePanel& panel, Chosen completion) {
-  auto dialog = makeDialog(front(), panel.title);
+  auto dialog = makeOwnDialog(front(), panel.title);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setFileMode(QFileDialog::AnyFile);
   setTypes(*dialog, panel.allowedFileTypes);

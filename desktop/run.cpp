@@ -60,7 +60,7 @@ int run(int& argc, char** argv, const Surroundings& surroundings) {
   editor::ViewController controller(host);
   controller.viewDidLoad();
   SettingsWindow window(controller, host, application.edits);
-  panels.setWindow(&window);
+  panels.setWindow(&window, &window.memory().folder);
   const SignalGuard guard(application);
   window.show();
   return QApplication::exec();

@@ -27,9 +27,11 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
                                Edits& edits, FactsSource facts)
     : controller_(controller),
       host_(host),
+      memory_(toQString(host.configHome)),
       controls_(edits),
       tabs_(new QTabWidget),
-      help_(new HelpLine) {
+      help_(new HelpLine),
+      stored_(memory_) {
   setObjectName(QLatin1String("settingsWindow"));
   setWindowTitle(tr("Quillon Settings") + QLatin1String("[*]"));
   tabs_->setObjectName(toQString(controller.tabs.tabViewC.name()));
@@ -59,14 +61,45 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   };
   checks_.emplace(controller, std::move(facts), checkedWindow(checksLine));
   tabsShown_ = controller.tabs.tabViewC.attach([this] { showTabs(); });
+  restore();
   connect(tabs_, &QTabWidget::currentChanged, this, &SettingsWindow::completePages);
+  followState();
+  controller.viewWillAppear(delegate_);
+  tabs_->setFocus();
+}
+
+SettingsWindow::~SettingsWindow() {
+  // Nobody has seen it, or what it was then is not known yet.
+  if (!pagesComplete_) {
+    return;
+  }
+  remember();
+  if (memory_ != stored_) {
+    memory_.store();
+  }
+}
+
+// Before the first paint, since the window system would show how it changes.
+void SettingsWindow::restore() {
   // The size goes by the font. A tenth of the screen is left for title bar and panels.
   const int line = fontMetrics().lineSpacing();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
   resize(QSize(52 * line, 40 * line).boundedTo(room));
-  followState();
-  controller.viewWillAppear(delegate_);
-  tabs_->setFocus();
+  restoreGeometry(memory_.geometry);
+  const auto& items = controller_.tabs.tabViewC.items();
+  const auto shown = std::find_if(items.begin(), items.end(), [this](const auto& item) {
+    return toQString(item->identifier) == memory_.tab;
+  });
+  if (shown != items.end() && shown != items.begin()) {
+    fillPage(controller_.tabs.idOf(**shown));
+    tabs_->setCurrentIndex(static_cast<int>(shown - items.begin()));
+  }
+}
+
+void SettingsWindow::remember() {
+  memory_.geometry = saveGeometry();
+  const auto& items = controller_.tabs.tabViewC.items();
+  memory_.tab = toQString(items.at(static_cast<std::size_t>(tabs_->currentIndex()))->identifier);
 }
 
 void SettingsWindow::followState() {
@@ -144,6 +177,8 @@ void SettingsWindow::paintEvent(QPaintEvent* event) {
       completePages();
       showIcon();
       checks_->start();
+      remember();
+      stored_ = memory_;
     });
   }
 }

@@ -16,6 +16,7 @@
 #include "desktop/preferences_window.h"
 #include "desktop/setting_widgets.h"
 #include "desktop/state_watch.h"
+#include "desktop/window_memory.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
 #include "volumes/image_folder.h"
@@ -30,6 +31,12 @@ class SettingsWindow : public QMainWindow {
   /// `facts` is where the checks get the facts about files from.
   SettingsWindow(editor::ViewController& controller, const platform::Host& host, Edits& edits,
                  FactsSource facts = checks::gather);
+  SettingsWindow(const SettingsWindow&) = delete;
+  SettingsWindow& operator=(const SettingsWindow&) = delete;
+  ~SettingsWindow() override;
+
+  /// What is stored when this window goes, if it has changed since it was first painted.
+  [[nodiscard]] WindowMemory& memory() { return memory_; }
 
   /// Makes the pages that are still empty. Before the window is shown only the first one is made:
   /// all of them would delay the first paint.
@@ -41,6 +48,8 @@ class SettingsWindow : public QMainWindow {
 
  private:
   void followState();
+  void restore();
+  void remember();
   void addPages();
   void fillPage(editor::TabId id);
   [[nodiscard]] QWidget* topRow();
@@ -64,6 +73,7 @@ class SettingsWindow : public QMainWindow {
   editor::ViewController& controller_;
   platform::Host host_;
   volumes::ImageFolder imageFolder_{host_.dataHome};
+  WindowMemory memory_;
   Controls controls_;
   platform::Window delegate_;
   QTabWidget* tabs_;
@@ -73,6 +83,7 @@ class SettingsWindow : public QMainWindow {
   QPointer<PreferencesWindow> preferences_;
   std::array<QScrollArea*, editor::tabCount> pages_{};
   bool pagesComplete_ = false;
+  WindowMemory stored_;
   SettingWidgets settingWidgets_;
   QWidget* volumesLabel_ = nullptr;
   UnsavedBar* unsaved_ = nullptr;

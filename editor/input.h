@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/shapes.h"
+#include "platform/translatable.h"
 
 namespace editor {
 
@@ -54,7 +55,8 @@ class InputGroup : public ControlGroup {
                                .form = Announcement::Form::matches,
                                .label = "results10: "}};
   RawKeysSetting rawKeys{*this, rawKeyFile};
-  FileButton rawKeyFileSelect{"rawKeyFileSelect", rawKeyFile, panels};
+  FileButton rawKeyFileSelect{"rawKeyFileSelect", rawKeyFile, panels,
+                              platform::translatable("Panels", "Choose the Key Code File")};
   MouseWheelSetting mouseWheel{*this};
   StepperSetting mouseScroll{
       *this,    Key::mousewheellines, "mouseScrollLvl",

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editor/shapes.h"
+#include "platform/translatable.h"
 
 namespace editor {
 
@@ -136,7 +137,8 @@ class MachineGroup : public ControlGroup {
   using ControlGroup::ControlGroup;
 
   RomSetting romFile{*this};
-  FileButton browseROM{"browseROM", romFile, panels};
+  FileButton browseROM{"browseROM", romFile, panels,
+                       platform::translatable("Panels", "Choose the ROM File")};
   BootDriveSetting stateStart{*this};
   Setting bootdriver{*this, Key::bootdriver};
   RamSizeSetting ramSizeMB{*this};

@@ -128,14 +128,16 @@ std::vector<std::string> PopUpSetting::shown() const {
   return {button.items().at(button.indexOfSelectedItem().value_or(0))};
 }
 
-FileButton::FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels)
-    : button(std::move(name)), setting_(setting), panels_(panels) {
+FileButton::FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels,
+                       const char* title)
+    : button(std::move(name)), setting_(setting), panels_(panels), title_(title) {
   button.action = [this] { browse(); };
 }
 
 void FileButton::browse() {
   platform::OpenPanel panel;
   panel.asker = button.name();
+  panel.title = title_;
   panel.directory = folderOf(setting_.field.stringValue());
   panels_.begin(panel, [this](const std::vector<platform::Location>& chosen) {
     setting_.takeChosen(chosen);

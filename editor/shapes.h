@@ -116,7 +116,8 @@ class PopUpSetting : public Setting {
 class FileButton {
  public:
   /// `name` is the name of the action.
-  FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels);
+  FileButton(std::string name, TextFieldSetting& setting, platform::Panels& panels,
+             const char* title);
 
   platform::Button button;
 
@@ -125,6 +126,7 @@ class FileButton {
 
   TextFieldSetting& setting_;
   platform::Panels& panels_;
+  const char* title_;
 };
 
 /// The folder of a path, when it exists: where a panel for another such path opens.

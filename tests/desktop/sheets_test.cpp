@@ -41,7 +41,7 @@ TEST_F(Sheets, LeavingTheNameEmptyIsTold) {
 TEST_F(Sheets, PressingBrowseAgainRaisesTheSameChooser) {
   open();
   desktop::Panels panels;
-  panels.setWindow(&*window);
+  panels.setWindow(&*window, &window->memory().folder);
   int answers = 0;
   const auto begin = [&](const char* asker) {
     platform::OpenPanel panel;
