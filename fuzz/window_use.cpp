@@ -4,9 +4,8 @@
 #include "tests/support/fake_host.h"
 #include "tests/support/fuzz.h"
 
-using tests::Key;
-
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using tests::Key;
   tests::FakeHost host;
   editor::ViewController window(host.host());
   tests::Model model("");
@@ -31,7 +30,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     } else if (data[at] % 8 == 1) {
       reset(static_cast<Key>(number % model.values.size()));
     } else {
-      const tests::Edit& edit = tests::edits.at(number % tests::edits.size());
+      const tests::Edit& edit = tests::edits().at(number % tests::edits().size());
       tests::perform(window, edit);
       edit.applyTo(model);
     }

@@ -9,7 +9,7 @@ class Settings : public tests::WindowTest {
  protected:
   /// Does it as a person does, on the tab where the control is.
   void perform(const Edit& edit) {
-    const std::string name(edit.control);
+    const std::string& name = edit.control;
     QWidget* const widget = find(name.c_str());
     showTabOf(widget);
     widget->setFocus();
@@ -34,8 +34,8 @@ TEST_F(Settings, EachWidgetEditsItsOwn) {
   open();
   window->completePages();
   tests::Model model("");
-  for (const Edit& edit : tests::edits) {
-    SCOPED_TRACE(std::string(edit.control) + " " + edit.said);
+  for (const Edit& edit : tests::edits()) {
+    SCOPED_TRACE(edit.control + " " + edit.said);
     perform(edit);
     edit.applyTo(model);
     key(Qt::Key_S, Qt::ControlModifier);

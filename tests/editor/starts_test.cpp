@@ -1,6 +1,3 @@
-// What a start over a preferences file says, shows and saves, as a whole. Each file in
-// tests/data/starts is a case: a preferences file, and under headings what comes of it.
-
 #include <gtest/gtest.h>
 
 #include "tests/support/edits.h"
@@ -9,30 +6,27 @@
 #include "tests/support/shown.h"
 
 namespace editor {
-namespace {
 
-struct Starts : testing::TestWithParam<std::string> {};
-
-TEST_P(Starts, SayShowAndSaveWhatTheFileTells) {
-  tests::FakeHost host;
-  host.home.write("a 100%25.dsk", std::string(1'474'560, '\0'));
-  tests::Golden golden("starts/" + GetParam(), host.home.path());
-  if (const std::string file = golden.section("The preferences file"); file != "none\n") {
-    host.home.write(tests::FakeHost::prefs, file);
+// What a start over a preferences file says, shows and saves, as a whole. Each file in
+// tests/data/starts is a case: a preferences file, and under headings what comes of it.
+TEST(Starts, SayShowAndSaveWhatTheFileTells) {
+  for (const auto& file : std::filesystem::directory_iterator(tests::dataPath("starts"))) {
+    tests::FakeHost host;
+    host.home.write("a 100%25.dsk", std::string(1'474'560, '\0'));
+    tests::Golden golden("starts/" + file.path().filename().string(), host.home.path());
+    if (const std::string text = golden.section("The preferences file"); text != "none\n") {
+      host.home.write(tests::FakeHost::prefs, text);
+    }
+    ViewController window(host.host());
+    window.viewDidLoad();
+    golden.expect("What opening it says", host.said());
+    golden.expect("What is shown", tests::shownBy(window));
+    golden.expect("What asking for the cells says", host.said());
+    golden.expect("What is there before a save", host.home.read(tests::FakeHost::prefs));
+    window.startQuil.sendAction();
+    golden.expect("What Start says", host.said());
+    golden.expect("What is saved", host.home.read(tests::FakeHost::prefs));
   }
-  ViewController window(host.host());
-  window.viewDidLoad();
-  golden.expect("What opening it says", host.said());
-  golden.expect("What is shown", tests::shownBy(window));
-  golden.expect("What asking for the cells says", host.said());
-  golden.expect("What is there before a save", host.home.read(tests::FakeHost::prefs));
-  window.startQuil.sendAction();
-  golden.expect("What Start says", host.said());
-  golden.expect("What is saved", host.home.read(tests::FakeHost::prefs));
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, Starts, testing::ValuesIn(tests::goldenFiles("starts")),
-                         [](const auto& file) { return tests::testName(file.param); });
-
-}  // namespace
 }  // namespace editor

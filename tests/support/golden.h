@@ -2,15 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <string>
-#include <vector>
+#include <utility>
 
-#include "tests/support/temporary_folder.h"
+#include "tests/support/data.h"
 
 namespace tests {
 
@@ -20,9 +17,7 @@ namespace tests {
 class Golden {
  public:
   Golden(const std::string& name, std::string home)
-      : path_(QUILLON_SOURCE "/tests/data/" + name),
-        home_(std::move(home)),
-        text_(dataFile(name)) {}
+      : path_(dataPath(name)), home_(std::move(home)), text_(dataFile(name)) {}
 
   [[nodiscard]] std::string section(const std::string& heading) const {
     const std::string line = "=== " + heading + "\n";
@@ -45,34 +40,9 @@ class Golden {
   }
 
  private:
-  static std::string replaced(std::string text, const std::string& part, const std::string& by) {
-    for (auto at = text.find(part); at != text.npos; at = text.find(part, at + by.size())) {
-      text.replace(at, part.size(), by);
-    }
-    return text;
-  }
-
   std::string path_;
   std::string home_;
   std::string text_;
 };
-
-/// The files of a folder below tests/data.
-inline std::vector<std::string> goldenFiles(const std::string& folder) {
-  std::vector<std::string> names;
-  for (const auto& file :
-       std::filesystem::directory_iterator(QUILLON_SOURCE "/tests/data/" + folder)) {
-    names.push_back(file.path().filename());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-/// A file's name as that of a test.
-inline std::string testName(std::string name) {
-  name.resize(name.find('.'));
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
-}
 
 }  // namespace tests

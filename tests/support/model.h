@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,10 +11,20 @@
 
 namespace tests {
 
+using document::Key;
+
+/// The key of a line "cpu 4".
+inline Key keyOf(const std::string& line) {
+  for (const document::KeyRow& row : document::keyTable) {
+    if (line.starts_with(row.text)) {
+      return row.key;
+    }
+  }
+  throw std::logic_error("no key begins the line " + line);
+}
+
 /// What a window over a preferences file must write back, worked out in the plainest way there is.
 struct Model {
-  using Key = document::Key;
-
   std::vector<std::string> disks;
   std::array<std::string, document::keyCount> values;
 

@@ -47,10 +47,4 @@ class TemporaryFolder {
   std::string path_;
 };
 
-/// The content of a file in tests/data.
-inline std::string dataFile(const std::string& name) {
-  std::ifstream file(QUILLON_SOURCE "/tests/data/" + name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 }  // namespace tests
