@@ -7,6 +7,7 @@
 #include "app/settings_store.h"
 #include "app/shared_var.h"
 #include "platform/plist_compat.h"
+#include "tests/support/data.h"
 #include "tests/support/fake_host.h"
 
 namespace app {
@@ -15,36 +16,20 @@ namespace {
 namespace fs = std::filesystem;
 using tests::FakeHost;
 
-/// What sharedVar holds of the settings that are stored.
-struct Stored {
-  std::string location;
-  bool start = true;
-  std::int64_t flag = startLocal;
-  bool scsi = false;
-  bool quit = false;
-
-  bool operator==(const Stored&) const = default;
-  friend std::ostream& operator<<(std::ostream& out, const Stored& stored) {
-    return out << stored.location << ", start " << stored.start << ", flag " << stored.flag
-               << ", SCSI " << stored.scsi << ", quit " << stored.quit;
-  }
-};
-
-Stored loaded() {
-  return {sharedVar::pathToQuil, sharedVar::startState, sharedVar::startFlag,
-          sharedVar::scsiTabState, sharedVar::quitGUI};
+/// What sharedVar holds of the settings that are stored, in their order.
+std::string loaded() {
+  return "\"" + sharedVar::pathToQuil + "\" " + std::to_string(sharedVar::startState) + " " +
+         std::to_string(sharedVar::startFlag) + " " + std::to_string(sharedVar::scsiTabState) +
+         " " + std::to_string(sharedVar::quitGUI);
 }
+
+const char* const shipped = "\"\" 1 2 0 0";
 
 /// The property list in tests/data, with the setting of every key away from the shipped one.
 struct SettingsTest : testing::Test {
   FakeHost host;
   std::string file = tests::dataFile("own-settings.plist");
-  Stored own = {
-      .location = "/Q\u00fc & A.app", .start = false, .flag = 7, .scsi = true, .quit = true};
-
-  [[nodiscard]] std::string with(const std::string& part, const std::string& instead) const {
-    return std::string(file).replace(file.find(part), part.size(), instead);
-  }
+  std::string own = "\"/Q\u00fc & A.app\" 0 7 1 1";
 };
 
 std::string binary(const std::string& xml) {
@@ -58,23 +43,15 @@ std::string binary(const std::string& xml) {
   return {bytes, size};
 }
 
-TEST_F(SettingsTest, ShippedFileHoldsAllKeys) {
-  SettingsStore(host.host()).load();
-  EXPECT_EQ(loaded(), Stored{});
-  EXPECT_EQ(host.said(), "");
-}
-
 TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
   struct Row {
-    const char* what;
     std::string content;
-    Stored loaded = {};
+    std::string loaded = shipped;
     int told = 5;  // keys without a usable value
   };
-  Stored started = own;
-  started.start = true;
-  Stored nowhere = own;
-  nowhere.location = "";
+  const auto with = [&](const std::string& part, const std::string& by) {
+    return tests::replaced(file, part, by);
+  };
   const auto nested = [&](int levels) {
     std::string lists;
     for (int level = 2; level < levels; ++level) {  // in an array in the dictionary
@@ -82,33 +59,29 @@ TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
     }
     return with("<real>1.5</real>", lists);
   };
-  // Newer versions of the library know these formats, too.
-  const std::string openStep =
-      R"({"Quillon.app location" = "/Q"; "Start Button Enabled" = 0; "Start Flag" = 1;})";
-  const std::string json =
-      R"({"Quillon.app location": "/Q", "Start Button Enabled": false, "Start Flag": 1})";
-  // clang-format off
-  const std::vector<Row> rows = {
-      {.what = "64 levels", .content = nested(64), .loaded = own, .told = 0},
-      {.what = "64 binary levels", .content = binary(nested(64)), .loaded = own, .told = 0},
-      {.what = "65 levels", .content = nested(65)},
-      {.what = "65 binary levels", .content = binary(nested(65))},
-      {.what = "3,000 levels", .content = nested(3000)},
-      {.what = "3,000 binary levels", .content = binary(nested(3000))},
-      {.what = "all keys", .content = file, .loaded = own, .told = 0},
-      {.what = "the binary form", .content = binary(file), .loaded = own, .told = 0},
-      {.what = "a number for a truth value", .content = with("<false/>", "<integer>0</integer>"), .loaded = started, .told = 1},
-      {.what = "a truth value for a text", .content = with("<string>/Q\u00fc &amp; A.app</string>", "<true/>"), .loaded = nowhere, .told = 1},
-      {.what = "nothing", .content = ""},
-      {.what = "garbage", .content = "garbage"},
-      {.what = "half a list", .content = file.substr(0, 200)},
-      {.what = "half a binary list", .content = binary(file).substr(0, 100)},
-      {.what = "OpenStep", .content = openStep},
-      {.what = "JSON", .content = json},
-      {.what = "a list without keys", .content = "<plist><array/></plist>"},
-      {.what = "more than 64 KiB", .content = file + std::string(1 << 16, ' ')}};
-  // clang-format on
-  const auto expectLoaded = [&](const Stored& expected, int told) {
+  std::vector<Row> rows = {{.content = file, .loaded = own, .told = 0},
+                           {.content = nested(64), .loaded = own, .told = 0},
+                           {.content = nested(65)},
+                           {.content = nested(3000)},
+                           {.content = with("<false/>", "<integer>0</integer>"),
+                            .loaded = "\"/Q\u00fc & A.app\" 1 7 1 1",
+                            .told = 1},
+                           {.content = with("<string>/Q\u00fc &amp; A.app</string>", "<true/>"),
+                            .loaded = "\"\" 0 7 1 1",
+                            .told = 1},
+                           {.content = "<plist version=\"1.0\"><array/></plist>"}};
+  for (std::size_t row = rows.size(); row-- > 0;) {
+    rows.push_back({binary(rows[row].content), rows[row].loaded, rows[row].told});
+  }
+  // Newer versions of the library would know the first two formats, too.
+  for (const std::string& content :
+       {std::string(R"({"Quillon.app location" = "/Q"; "Start Flag" = 1;})"),
+        std::string(R"({"Quillon.app location": "/Q", "Start Flag": 1})"), std::string(),
+        std::string("garbage"), file.substr(0, 200), binary(file).substr(0, 100),
+        file + std::string(1 << 16, ' ')}) {
+    rows.push_back({.content = content});
+  }
+  const auto expectLoaded = [&](const std::string& expected, int told) {
     SettingsStore store(host.host());
     store.load();
     EXPECT_EQ(loaded(), expected);
@@ -116,17 +89,18 @@ TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), told) << said;
     return store;
   };
-  for (const auto& [what, content, expected, told] : rows) {
-    SCOPED_TRACE(what);
+  expectLoaded(shipped, 0);
+  for (const auto& [content, expected, told] : rows) {
+    SCOPED_TRACE(content.substr(0, 3000));
     host.home.write(FakeHost::settings, content);
     expectLoaded(expected, told).writeBack();
     host.said();
     expectLoaded(expected, 0);
   }
   fs::remove(host.home.path(FakeHost::settings));
-  expectLoaded({}, 5);
+  expectLoaded(shipped, 5);
   fs::create_directory(host.home.path(FakeHost::settings));
-  expectLoaded({}, 5);
+  expectLoaded(shipped, 5);
 }
 
 TEST_F(SettingsTest, WritesBackWithWhatItDoesNotKnow) {
@@ -144,7 +118,7 @@ TEST_F(SettingsTest, WritesBackWithWhatItDoesNotKnow) {
     EXPECT_NE(written.find(kept), written.npos) << kept << " is not in " << written;
   }
   store.load();
-  EXPECT_EQ(loaded(), (Stored{.location = "/new <&>", .start = false, .flag = 1, .scsi = true}));
+  EXPECT_EQ(loaded(), "\"/new <&>\" 0 1 1 0");
   EXPECT_EQ(host.said(), "") << "each key has its own type again";
   fs::remove(host.home.path(FakeHost::settings));
   fs::create_directory(host.home.path(FakeHost::settings));
@@ -153,8 +127,7 @@ TEST_F(SettingsTest, WritesBackWithWhatItDoesNotKnow) {
 }
 
 TEST_F(SettingsTest, APersonHasAFileWhereTheBundleIsReadOnly) {
-  const std::string path = host.home.write(FakeHost::settings, file);
-  fs::permissions(path, fs::perms(0444));
+  fs::permissions(host.home.write(FakeHost::settings, file), fs::perms(0444));
   // The superuser may write everything: ask as somebody else.
   const bool superuser = ::getuid() == 0;
   ASSERT_TRUE(!superuser || ::setreuid(65534, static_cast<uid_t>(-1)) == 0);
@@ -193,18 +166,14 @@ TEST_F(SettingsTest, LocalModeFollowsTheBundle) {
 TEST_F(SettingsTest, OwnFolderIsNotMistakenForOneNamedLikeItsLocation) {
   const std::string foreign = host.home.write("100%25/Quillon.app", "");
   findLocalPath(platform::Bundle(host.home.path("100%/Q S.app")), host.output);
-  struct Row {
-    std::string location;
-    std::string started;
-  };
-  const std::vector<Row> rows = {
-      {.location = localEmulator(), .started = host.home.path("100%//Quillon.app")},
-      {.location = host.home.path("100%25/Old.app"), .started = host.home.path("100%/Old.app")},
-      {.location = foreign, .started = foreign},
-      {.location = "/a%20b/Quillon.app", .started = "/a%20b/Quillon.app"}};
-  for (const Row& row : rows) {
-    sharedVar::pathToQuil = row.location;
-    EXPECT_EQ(emulatorPath(), row.started);
+  const std::pair<std::string, std::string> startedFrom[] = {
+      {localEmulator(), host.home.path("100%//Quillon.app")},
+      {host.home.path("100%25/Old.app"), host.home.path("100%/Old.app")},
+      {foreign, foreign},
+      {"/a%20b/Quillon.app", "/a%20b/Quillon.app"}};
+  for (const auto& [location, started] : startedFrom) {
+    sharedVar::pathToQuil = location;
+    EXPECT_EQ(emulatorPath(), started);
   }
 }
 
