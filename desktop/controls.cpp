@@ -79,9 +79,9 @@ PendingEdit* Controls::pendingEdit(QLineEdit* field, platform::TextField& contro
       .get();
 }
 
-QPushButton* Controls::pushButton(platform::Button& control, const QString& text,
-                                  const QString& help) {
-  auto* const button = new QPushButton(text);
+template <typename ButtonWidget>
+ButtonWidget* Controls::pressed(ButtonWidget* button, platform::Button& control,
+                                const QString& help) {
   describe(button, control, help);
   attach(control, button, [button, &control] {
     button->setEnabled(control.isEnabled());
@@ -89,13 +89,26 @@ QPushButton* Controls::pushButton(platform::Button& control, const QString& text
       button->setText(translatedItem(control.title()));
     }
   });
-  QObject::connect(button, &QPushButton::clicked, &connections_, [this, button, &control] {
+  QObject::connect(button, &ButtonWidget::clicked, &connections_, [this, button, &control] {
     if ((button->focusPolicy() & Qt::ClickFocus) != 0) {
       edits_.endEditing();
     }
     control.sendAction();
   });
   return button;
+}
+
+QPushButton* Controls::pushButton(platform::Button& control, const QString& text,
+                                  const QString& help) {
+  return pressed(new QPushButton(text), control, help);
+}
+
+QToolButton* Controls::smallButton(platform::Button& control, const QString& text,
+                                   const QString& help) {
+  auto* const button = new QToolButton;
+  button->setText(text);
+  button->setFocusPolicy(Qt::StrongFocus);
+  return pressed(button, control, help);
 }
 
 template <typename ButtonWidget>
@@ -252,11 +265,12 @@ QLabel* Controls::statusLine(platform::TextField& control) {
   return line;
 }
 
-QProgressBar* Controls::progressBar(platform::ProgressIndicator& control) {
+QProgressBar* Controls::busyIndicator(platform::ProgressIndicator& control) {
   auto* const bar = new QProgressBar;
   describe(bar, control, {});
   bar->setAccessibleName(desktop::tr("Activity"));
   bar->setTextVisible(false);
+  bar->setFixedWidth(4 * bar->fontMetrics().lineSpacing());
   attach(control, bar, [bar, &control] {
     // With minimum and maximum 0, QProgressBar shows a moving bar.
     bar->setRange(0, control.isAnimating() ? 0 : 1);

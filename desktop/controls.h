@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QString>
+#include <QToolButton>
 #include <memory>
 #include <vector>
 
@@ -32,6 +33,8 @@ class Controls {
   /// The control's own title, where it has one, stands for `text`. A button that takes no focus on
   /// a click leaves an edit in another field open.
   QPushButton* pushButton(platform::Button& control, const QString& text, const QString& help);
+  /// No wider than its text.
+  QToolButton* smallButton(platform::Button& control, const QString& text, const QString& help);
   QCheckBox* checkBox(platform::Button& control, const QString& text, const QString& help);
   QRadioButton* radioButton(platform::Button& control, const QString& text, const QString& help);
   /// A menu entry with a check mark.
@@ -48,11 +51,14 @@ class Controls {
 
   /// A text that tells how things went, in its colour.
   QLabel* statusLine(platform::TextField& control);
-  QProgressBar* progressBar(platform::ProgressIndicator& control);
+  /// A small sign that something is going on.
+  QProgressBar* busyIndicator(platform::ProgressIndicator& control);
 
   [[nodiscard]] Edits& edits() const { return edits_; }
 
  private:
+  template <typename ButtonWidget>
+  ButtonWidget* pressed(ButtonWidget* button, platform::Button& control, const QString& help);
   template <typename ButtonWidget>
   ButtonWidget* checkable(platform::Button& control, const QString& text, const QString& help);
 

@@ -48,8 +48,7 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
 
   auto* const layout = new QVBoxLayout(this);
   layout->addLayout(form);
-  layout->addWidget(controls_.statusLine(controller_.createStatus));
-  layout->addLayout(progressRow());
+  layout->addLayout(statusRow());
   layout->addLayout(buttons);
   setMinimumWidth(33 * fontMetrics().lineSpacing());
 
@@ -93,22 +92,21 @@ void CreateSheet::showFolder() {
     platform::ByteCountFormatter formatter;
     formatter.countStyle = platform::ByteCountFormatter::CountStyle::memory;
     const auto bytes = static_cast<std::int64_t>(*folder.freeBytes);
-    sentences += tr("Free space: %1").arg(toQString(formatter.stringFromByteCount(bytes)));
+    sentences +=
+        tr("Free space: %1").arg(leftToRight(toQString(formatter.stringFromByteCount(bytes))));
   }
   folderNote_->show(sentences.join(QLatin1Char('\n')),
                     folder.isWritable ? platform::TextColor::gray : platform::TextColor::red);
 }
 
-QLayout* CreateSheet::progressRow() {
-  const QString help = tr("Only moves the bar; making an image does not.");
+// The controller has buttons for the indicator, which no image needs.
+QLayout* CreateSheet::statusRow() {
+  const QString help = tr("Only moves the indicator; making an image does not.");
   auto* const row = new QHBoxLayout;
-  row->addWidget(controls_.progressBar(controller_.createProgressStatus), 1);
-  for (const auto& [button, text] : {std::pair(&controller_.startAnim, tr("&Animate")),
-                                     std::pair(&controller_.stopAnim, tr("S&top"))}) {
-    QPushButton* const widget = controls_.pushButton(*button, text, help);
-    widget->setAutoDefault(false);
-    row->addWidget(widget);
-  }
+  row->addWidget(controls_.statusLine(controller_.createStatus), 1);
+  row->addWidget(controls_.busyIndicator(controller_.createProgressStatus));
+  row->addWidget(controls_.smallButton(controller_.startAnim, tr("&Animate"), help));
+  row->addWidget(controls_.smallButton(controller_.stopAnim, tr("S&top"), help));
   return row;
 }
 

@@ -21,7 +21,7 @@ class CreateSheet : public QDialog {
 
  private:
   void addFolder(QFormLayout& form);
-  [[nodiscard]] QLayout* progressRow();
+  [[nodiscard]] QLayout* statusRow();
   void showFolder();
 
   volumes::createViewController controller_;

@@ -16,6 +16,8 @@ Menus::Menus(editor::ViewController& controller, Controls& controls, const Opene
   add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), openers.preferences);
   addPresets(controller.presets);
   QMenu* const help = addMenu(tr("&Help"));
+  add(help, tr("&Diagnostics…"), {}, openers.diagnostics)
+      ->setObjectName(QLatin1String("openDiagnostics"));
   add(help, tr("&Beta Agreement…"), {}, openers.agreement);
   add(help, tr("&About Quillon Settings"), {}, openers.about);
 }

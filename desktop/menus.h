@@ -18,6 +18,7 @@ class Menus : public QMenuBar {
     std::function<void()> preview;
     std::function<void()> preferences;
     std::function<void()> resetPage;
+    std::function<void()> diagnostics;
     std::function<void()> agreement;
     std::function<void()> about;
   };

@@ -15,23 +15,6 @@ using editor::TabId;
 
 namespace {
 
-// The foot of the page: what only helps to find faults in this program.
-QLayout* diagnosticsRow(Controls& controls, volumes::VolumeTable& volumes) {
-  auto* const row = new QHBoxLayout;
-  auto* const label = controls.statusLine(volumes.loCalDebug);
-  label->setMinimumHeight(0);
-  row->addWidget(label, 1);
-  row->addWidget(
-      controls.checkBox(volumes.ronMode, tr("Read the local l&ist"),
-                        tr("For finding faults in this program: the table shows the second of two "
-                           "equal lists. You see no difference.")));
-  row->addWidget(
-      controls.pushButton(volumes.sheetCreate, tr("Tr&y the save panel…"),
-                          tr("For finding faults in this program: shows a panel and writes the "
-                             "chosen place to standard output. Nothing is made.")));
-  return row;
-}
-
 QWidget* volumesPage(const PageContext& context) {
   Controls& controls = context.controls;
   volumes::VolumeTable& volumes = context.controller.volumes;
@@ -67,7 +50,6 @@ QWidget* volumesPage(const PageContext& context) {
   builder.field(shared.unixRootPath, controls.pushButton(shared.unixRoot, tr("Ch&oose…"),
                                                          tr("Chooses the shared folder.")));
   layout->addLayout(builder.form());
-  layout->addLayout(diagnosticsRow(controls, volumes));
   return page;
 }
 

@@ -22,6 +22,15 @@
 #include "desktop/texts.h"
 
 namespace desktop {
+namespace {
+
+void bringUp(QWidget* window) {
+  window->show();
+  window->raise();
+  window->activateWindow();
+}
+
+}  // namespace
 
 SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
                                Edits& edits, FactsSource facts)
@@ -285,10 +294,10 @@ QWidget* SettingsWindow::topRow() {
   auto* const layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(0);
-  menus_ =
-      new Menus(controller_, controls_,
-                {[this] { openPreview(); }, [this] { openPreferences(); }, [this] { resetPage(); },
-                 [this] { openAgreement(); }, [this] { tellAbout(); }});
+  menus_ = new Menus(
+      controller_, controls_,
+      {[this] { openPreview(); }, [this] { openPreferences(); }, [this] { resetPage(); },
+       [this] { openDiagnostics(); }, [this] { openAgreement(); }, [this] { tellAbout(); }});
   layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
   find_ = new FindField(
@@ -358,9 +367,14 @@ void SettingsWindow::openPreferences() {
   if (preferences_ == nullptr) {
     preferences_ = new PreferencesWindow(host_, controls_.edits(), this);
   }
-  preferences_->show();
-  preferences_->raise();
-  preferences_->activateWindow();
+  bringUp(preferences_);
+}
+
+void SettingsWindow::openDiagnostics() {
+  if (diagnostics_ == nullptr) {
+    diagnostics_ = new DiagnosticsWindow(controller_.volumes, controls_.edits(), this);
+  }
+  bringUp(diagnostics_);
 }
 
 void SettingsWindow::openAgreement() {

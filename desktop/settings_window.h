@@ -10,6 +10,7 @@
 #include "desktop/change_marks.h"
 #include "desktop/checks_view.h"
 #include "desktop/controls.h"
+#include "desktop/diagnostics_window.h"
 #include "desktop/find_field.h"
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
@@ -66,6 +67,7 @@ class SettingsWindow : public QMainWindow {
   void resetPage();
   void guardStart();
   void openPreferences();
+  void openDiagnostics();
   void openAgreement();
   void openCreation();
   void tellAbout();
@@ -81,6 +83,7 @@ class SettingsWindow : public QMainWindow {
   Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
   QPointer<PreferencesWindow> preferences_;
+  QPointer<DiagnosticsWindow> diagnostics_;
   std::array<QScrollArea*, editor::tabCount> pages_{};
   bool pagesComplete_ = false;
   WindowMemory stored_;

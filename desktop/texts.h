@@ -18,6 +18,13 @@ inline std::string fromQString(const QString& text) { return text.toStdString();
 /// language.
 inline QString tr(const char* text) { return QCoreApplication::translate("desktop", text); }
 
+/// A path or a number with its unit for a place where texts may read from the right: Qt would move
+/// the slash or the unit to the wrong end.
+inline QString leftToRight(const QString& text) {
+  constexpr QChar mark(0x200e);  // LEFT-TO-RIGHT MARK, is not seen
+  return QGuiApplication::isRightToLeft() ? mark + text + mark : text;
+}
+
 /// An entry of a list or the title of a button of the core in the person's language. A value of the
 /// file among them stays as it is.
 inline QString translatedItem(const std::string& text) {
@@ -25,7 +32,9 @@ inline QString translatedItem(const std::string& text) {
     return toQString(text.substr(0, text.size() - editor::fromFile.size())) +
            QCoreApplication::translate("Items", editor::fromFile.data());
   }
-  return QCoreApplication::translate("Items", text.c_str());
+  const QString item = QCoreApplication::translate("Items", text.c_str());
+  const bool hasUnit = !item.isEmpty() && item.front().isDigit() && !item.isRightToLeft();
+  return hasUnit ? leftToRight(item) : item;
 }
 
 /// Where lines begin in the language of the window. Labels go by the language of their text, which

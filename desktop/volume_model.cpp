@@ -85,8 +85,7 @@ QVariant VolumeModel::headerData(int section, Qt::Orientation orientation, int r
   const platform::TableColumn* const column =
       orientation == Qt::Horizontal ? columnAt(section) : nullptr;
   if (column != nullptr && role == Qt::DisplayRole) {
-    const QString title = QCoreApplication::translate("Columns", column->title);
-    return column->endsAtRight ? title + columnGap : title;
+    return QCoreApplication::translate("Columns", column->title);
   }
   if (column != nullptr && role == Qt::TextAlignmentRole) {
     return alignment(section);

@@ -12,9 +12,6 @@
 
 namespace desktop {
 
-/// What stands behind the texts of a column that end at the right.
-inline constexpr QChar columnGap(0x2002);  // an en space
-
 /// The rows of a table of the core for Qt's table view. A cell is asked for when it first becomes
 /// visible and kept until the table is reloaded.
 class VolumeModel : public QAbstractTableModel {

@@ -16,9 +16,10 @@ namespace desktop {
 
 namespace {
 
-// Marks paths and sizes as left-to-right: in a right-to-left language Qt would move their slashes
-// and units to the wrong end. Appends a gap to texts that end at the right, which would otherwise
-// touch those of the next column.
+// Is painted behind texts that end at the right, which would otherwise touch those of the next
+// column. The model does not have it: screen readers and tools would.
+constexpr QChar columnGap(0x2002);  // an en space
+
 class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -26,13 +27,37 @@ class CellDelegate : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (option->direction == Qt::RightToLeft) {
-      constexpr QChar leftToRightMark(0x200e);
-      option->text = leftToRightMark + option->text + leftToRightMark;
-    }
+    option->text = leftToRight(option->text);
     if (option->displayAlignment.testFlag(Qt::AlignRight)) {
       option->text += columnGap;
     }
+  }
+};
+
+class TableHeader : public QHeaderView {
+ public:
+  explicit TableHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(true);
+  }
+
+ protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
+    QHeaderView::initStyleOptionForIndex(option, section);
+    if (endsAtRight(section)) {
+      option->text += columnGap;
+    }
+  }
+
+  [[nodiscard]] QSize sectionSizeFromContents(int section) const override {
+    const QSize size = QHeaderView::sectionSizeFromContents(section);
+    return endsAtRight(section) ? size + QSize(fontMetrics().horizontalAdvance(columnGap), 0)
+                                : size;
+  }
+
+ private:
+  [[nodiscard]] bool endsAtRight(int section) const {
+    const QVariant alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole);
+    return alignment.value<Qt::Alignment>().testFlag(Qt::AlignRight);
   }
 };
 
@@ -55,7 +80,8 @@ VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& im
   setAlternatingRowColors(true);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  QHeaderView* const header = horizontalHeader();
+  auto* const header = new TableHeader(this);
+  setHorizontalHeader(header);
   header->setHighlightSections(false);
   header->setResizeContentsPrecision(0);  // the visible rows only
   header->setSectionResizeMode(QHeaderView::ResizeToContents);
