@@ -5,6 +5,7 @@
 
 #include "desktop/checks_texts.h"
 #include "desktop/plain_text.h"
+#include "desktop/signs.h"
 
 namespace desktop {
 
@@ -22,14 +23,14 @@ ChecksLine::ChecksLine() : sentence_(tr("Checking the files…")) {
       tr("What keeps Quillon from starting, and what else deserves a look. Press it to see "
          "all of it."));
   setAccessibleDescription(whatsThis());
-  showText();
+  setAccessibleName(sentence_);
 }
 
 void ChecksLine::show(const std::vector<checks::Finding>& findings, bool areComplete) {
   QString spoken;
   rest_.clear();
   if (findings.empty()) {
-    setIcon(areComplete ? fineIcon() : QIcon());
+    setIcon(areComplete ? iconOf(Sign::fine) : QIcon());
     spoken = sentence_ = areComplete ? tr("Ready to start.") : tr("Checking the files…");
   } else {
     setIcon(iconOf(findings.front().level));

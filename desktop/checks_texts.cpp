@@ -1,8 +1,8 @@
 #include "desktop/checks_texts.h"
 
-#include <QApplication>
-#include <QStyle>
+#include <QCoreApplication>
 
+#include "desktop/signs.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -46,18 +46,15 @@ QString spokenTextOf(const checks::Finding& finding) {
 }
 
 QIcon iconOf(checks::Level level) {
-  const QStyle* const style = QApplication::style();
   switch (level) {
     case checks::Level::stops:
-      return style->standardIcon(QStyle::SP_MessageBoxCritical);
+      return iconOf(Sign::stop);
     case checks::Level::warning:
-      return style->standardIcon(QStyle::SP_MessageBoxWarning);
+      return iconOf(Sign::warning);
     case checks::Level::note:
       break;
   }
-  return style->standardIcon(QStyle::SP_MessageBoxInformation);
+  return iconOf(Sign::note);
 }
-
-QIcon fineIcon() { return QApplication::style()->standardIcon(QStyle::SP_DialogApplyButton); }
 
 }  // namespace desktop

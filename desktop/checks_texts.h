@@ -13,10 +13,6 @@ QString textOf(const checks::Finding& finding);
 /// The sentence behind a word for the level, for those who do not see the icon.
 QString spokenTextOf(const checks::Finding& finding);
 
-/// The sign of a level. Its shape alone tells which it is.
 QIcon iconOf(checks::Level level);
-
-/// The sign that there is nothing to tell.
-QIcon fineIcon();
 
 }  // namespace desktop
