@@ -5,43 +5,43 @@
     <name>Checks</name>
     <message>
         <source>The disk image &quot;%1&quot; is missing.</source>
-        <translation>Das Festplattenabbild „%1“ fehlt.</translation>
+        <translation>Das Disk-Image „%1“ fehlt.</translation>
     </message>
     <message>
         <source>%1 of %2 disk images are missing: %3.</source>
-        <translation>%1 von %2 Festplattenabbildern fehlen: %3.</translation>
+        <translation>%1 von %2 Disk-Images fehlen: %3.</translation>
     </message>
     <message>
         <source>The disk image &quot;%1&quot; is a folder.</source>
-        <translation>Das Festplattenabbild „%1“ ist ein Ordner.</translation>
+        <translation>Das Disk-Image „%1“ ist ein Ordner.</translation>
     </message>
     <message>
         <source>%1 of %2 disk images are folders: %3.</source>
-        <translation>%1 von %2 Festplattenabbildern sind Ordner: %3.</translation>
+        <translation>%1 von %2 Disk-Images sind Ordner: %3.</translation>
     </message>
     <message>
         <source>The disk image &quot;%1&quot; is empty.</source>
-        <translation>Das Festplattenabbild „%1“ ist leer.</translation>
+        <translation>Das Disk-Image „%1“ ist leer.</translation>
     </message>
     <message>
         <source>%1 of %2 disk images are empty: %3.</source>
-        <translation>%1 von %2 Festplattenabbildern sind leer: %3.</translation>
+        <translation>%1 von %2 Disk-Images sind leer: %3.</translation>
     </message>
     <message>
         <source>The disk image &quot;%1&quot; cannot be written to.</source>
-        <translation>In das Festplattenabbild „%1“ kann nicht geschrieben werden.</translation>
+        <translation>In das Disk-Image „%1“ kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>%1 of %2 disk images cannot be written to: %3.</source>
-        <translation>In %1 von %2 Festplattenabbildern kann nicht geschrieben werden: %3.</translation>
+        <translation>In %1 von %2 Disk-Images kann nicht geschrieben werden: %3.</translation>
     </message>
     <message>
         <source>There is no disk image in the list.</source>
-        <translation>In der Liste steht kein Festplattenabbild.</translation>
+        <translation>In der Liste steht kein Disk-Image.</translation>
     </message>
     <message>
         <source>%1 disk images are one and the same file, which two writers would damage: %2.</source>
-        <translation>%1 Festplattenabbilder sind ein und dieselbe Datei, die durch zweifaches Schreiben beschädigt würde: %2.</translation>
+        <translation>%1 Disk-Images sind ein und dieselbe Datei, die durch zweifaches Schreiben beschädigt würde: %2.</translation>
     </message>
     <message>
         <source>Start is disabled: choose where Quillon is in Edit &gt; Preferences.</source>
@@ -133,19 +133,19 @@
     </message>
     <message>
         <source>The disk image &quot;%1&quot; cannot be reached.</source>
-        <translation>Das Festplattenabbild „%1“ ist nicht erreichbar.</translation>
+        <translation>Das Disk-Image „%1“ ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>%1 of %2 disk images cannot be reached: %3.</source>
-        <translation>%1 von %2 Festplattenabbildern sind nicht erreichbar: %3.</translation>
+        <translation>%1 von %2 Disk-Images sind nicht erreichbar: %3.</translation>
     </message>
     <message>
         <source>There is no permission to read the disk image &quot;%1&quot;.</source>
-        <translation>Es fehlt die Berechtigung, das Festplattenabbild „%1“ zu lesen.</translation>
+        <translation>Es fehlt die Berechtigung, das Disk-Image „%1“ zu lesen.</translation>
     </message>
     <message>
         <source>There is no permission to read %1 of %2 disk images: %3.</source>
-        <translation>Es fehlt die Berechtigung, %1 von %2 Festplattenabbildern zu lesen: %3.</translation>
+        <translation>Es fehlt die Berechtigung, %1 von %2 Disk-Images zu lesen: %3.</translation>
     </message>
     <message>
         <source>Quillon cannot be reached at &quot;%1&quot;: %2.</source>
@@ -163,12 +163,20 @@
         <source>The shared folder &quot;%1&quot; cannot be reached: %2.</source>
         <translation>Der gemeinsame Ordner „%1“ ist nicht erreichbar: %2.</translation>
     </message>
+    <message>
+        <source>The ROM file &quot;%1&quot; is a device and no file.</source>
+        <translation>Die ROM-Datei „%1“ ist ein Gerät und keine Datei.</translation>
+    </message>
+    <message>
+        <source>The preferences file &quot;%1&quot; exists and has not been read. A save replaces what is in it.</source>
+        <translation>Die Einstellungsdatei „%1“ gibt es, sie wurde aber nicht gelesen. Speichern ersetzt, was darin steht.</translation>
+    </message>
 </context>
 <context>
     <name>Columns</name>
     <message>
         <source>Disk image</source>
-        <translation>Festplattenabbild</translation>
+        <translation>Disk-Image</translation>
     </message>
     <message>
         <source>Size</source>
@@ -441,7 +449,15 @@
     <name>Panels</name>
     <message>
         <source>Choose a Folder for New Images</source>
-        <translation>Ordner für neue Abbilder wählen</translation>
+        <translation>Ordner für neue Disk-Images wählen</translation>
+    </message>
+    <message>
+        <source>Choose the Key Code File</source>
+        <translation>Tastencode-Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose the ROM File</source>
+        <translation>ROM-Datei wählen</translation>
     </message>
 </context>
 <context>
@@ -598,40 +614,24 @@
 <context>
     <name>desktop</name>
     <message>
-        <source>Read the local l&amp;ist</source>
-        <translation>Lokale Liste l&amp;esen</translation>
-    </message>
-    <message>
-        <source>For finding faults in this program: the table shows the second of two equal lists. You see no difference.</source>
-        <translation>Zur Fehlersuche in diesem Programm: Die Tabelle zeigt die zweite von zwei gleichen Listen. Ein Unterschied ist nicht zu sehen.</translation>
-    </message>
-    <message>
-        <source>Tr&amp;y the save panel…</source>
-        <translation>S&amp;peicherdialog testen …</translation>
-    </message>
-    <message>
-        <source>For finding faults in this program: shows a panel and writes the chosen place to standard output. Nothing is made.</source>
-        <translation>Zur Fehlersuche in diesem Programm: Zeigt einen Dialog und schreibt den gewählten Ort auf die Standardausgabe. Es wird nichts angelegt.</translation>
-    </message>
-    <message>
         <source>Disk images</source>
-        <translation>Festplattenabbilder</translation>
+        <translation>Disk-Images</translation>
     </message>
     <message>
         <source>The disk images of the Macintosh, in their order.</source>
-        <translation>Die Festplattenabbilder des Macintosh in ihrer Reihenfolge.</translation>
+        <translation>Die Disk-Images des Macintosh in ihrer Reihenfolge.</translation>
     </message>
     <message>
         <source>Disk i&amp;mages:</source>
-        <translation>&amp;Festplattenabbilder:</translation>
+        <translation>Disk-I&amp;mages:</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation>Hin&amp;zufügen …</translation>
+        <translation>Hin&amp;zufügen&#xa0;…</translation>
     </message>
     <message>
         <source>Adds image files to the list.</source>
-        <translation>Fügt der Liste Abbilddateien hinzu.</translation>
+        <translation>Fügt der Liste Disk-Images hinzu.</translation>
     </message>
     <message>
         <source>Remo&amp;ve</source>
@@ -639,19 +639,19 @@
     </message>
     <message>
         <source>Takes the selected image off the list. The file stays.</source>
-        <translation>Nimmt das ausgewählte Abbild aus der Liste. Die Datei bleibt erhalten.</translation>
+        <translation>Nimmt das ausgewählte Disk-Image aus der Liste. Die Datei bleibt erhalten.</translation>
     </message>
     <message>
         <source>New &amp;Blank Image…</source>
-        <translation>Ne&amp;ues leeres Abbild …</translation>
+        <translation>Ne&amp;ues leeres Disk-Image&#xa0;…</translation>
     </message>
     <message>
         <source>Makes an empty disk image. It is not added to the list.</source>
-        <translation>Legt ein leeres Festplattenabbild an. Es wird nicht in die Liste aufgenommen.</translation>
+        <translation>Legt ein leeres Disk-Image an. Es wird nicht in die Liste aufgenommen.</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
-        <translation>&amp;Auswählen …</translation>
+        <translation>&amp;Auswählen&#xa0;…</translation>
     </message>
     <message>
         <source>Chooses the shared folder.</source>
@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>Bro&amp;wse…</source>
-        <translation>D&amp;urchsuchen …</translation>
+        <translation>D&amp;urchsuchen&#xa0;…</translation>
     </message>
     <message>
         <source>Chooses the ROM file.</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>&amp;Browse…</source>
-        <translation>D&amp;urchsuchen …</translation>
+        <translation>D&amp;urchsuchen&#xa0;…</translation>
     </message>
     <message>
         <source>Chooses the key code file.</source>
@@ -757,6 +757,10 @@
         <source>Note: %1</source>
         <translation>Hinweis: %1</translation>
     </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -766,7 +770,7 @@
     </message>
     <message>
         <source>&lt;p&gt;This program is a beta version. It changes three things on this computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;Quillon&apos;s preferences file, when you press Save, Start or Copy, and once when there is none yet;&lt;/li&gt;&lt;li&gt;its own settings, when you press Done in its preferences;&lt;/li&gt;&lt;li&gt;the disk images that you ask it to make.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Keep a copy of what you cannot do without. Disagree ends the program at once, without saving.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Dieses Programm ist eine Betaversion. Es verändert drei Dinge auf diesem Computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;die Einstellungsdatei von Quillon, wenn Sie auf „Speichern“, „Starten“ oder „Kopieren“ klicken, und einmal, wenn es noch keine gibt;&lt;/li&gt;&lt;li&gt;seine eigenen Einstellungen, wenn Sie dort auf „Fertig“ klicken;&lt;/li&gt;&lt;li&gt;die Festplattenabbilder, die Sie anlegen lassen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Bewahren Sie eine Kopie von allem auf, worauf Sie nicht verzichten können. „Ablehnen“ beendet das Programm sofort, ohne zu speichern.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;Dieses Programm ist eine Betaversion. Es verändert drei Dinge auf diesem Computer:&lt;/p&gt;&lt;ul&gt;&lt;li&gt;die Einstellungsdatei von Quillon, wenn Sie auf „Speichern“, „Starten“ oder „Kopieren“ klicken, und einmal, wenn es noch keine gibt;&lt;/li&gt;&lt;li&gt;seine eigenen Einstellungen, wenn Sie dort auf „Fertig“ klicken;&lt;/li&gt;&lt;li&gt;die Disk-Images, die Sie anlegen lassen.&lt;/li&gt;&lt;/ul&gt;&lt;p&gt;Bewahren Sie eine Kopie von allem auf, worauf Sie nicht verzichten können. „Ablehnen“ beendet das Programm sofort, ohne zu speichern.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&amp;Disagree</source>
@@ -836,7 +840,7 @@
     <name>desktop::ChecksLine</name>
     <message>
         <source>Checking the files…</source>
-        <translation>Dateien werden geprüft …</translation>
+        <translation>Dateien werden geprüft&#xa0;…</translation>
     </message>
     <message>
         <source>What keeps Quillon from starting, and what else deserves a look. Press it to see all of it.</source>
@@ -869,11 +873,11 @@
     <name>desktop::CreateSheet</name>
     <message>
         <source>New Blank Image</source>
-        <translation>Neues leeres Abbild</translation>
+        <translation>Neues leeres Disk-Image</translation>
     </message>
     <message>
         <source>The name of the image file, without &quot;.dsk&quot;.</source>
-        <translation>Der Name der Abbilddatei, ohne „.dsk“.</translation>
+        <translation>Der Name des Disk-Images, ohne „.dsk“.</translation>
     </message>
     <message>
         <source>The size in megabytes. 100 if this is no whole number.</source>
@@ -897,15 +901,11 @@
     </message>
     <message>
         <source>Makes the image, and then closes this sheet.</source>
-        <translation>Legt das Abbild an und schließt danach dieses Fenster.</translation>
+        <translation>Legt das Disk-Image an und schließt danach dieses Fenster.</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
         <translation>&amp;Schließen</translation>
-    </message>
-    <message>
-        <source>Only moves the bar; making an image does not.</source>
-        <translation>Bewegt nur den Balken; beim Anlegen eines Abbilds bewegt er sich nicht.</translation>
     </message>
     <message>
         <source>&amp;Animate</source>
@@ -917,7 +917,7 @@
     </message>
     <message>
         <source>The folder that the image file goes to.</source>
-        <translation>Der Ordner, in den die Abbilddatei kommt.</translation>
+        <translation>Der Ordner, in den das Disk-Image kommt.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -925,11 +925,11 @@
     </message>
     <message>
         <source>C&amp;hoose…</source>
-        <translation>&amp;Wählen …</translation>
+        <translation>&amp;Wählen&#xa0;…</translation>
     </message>
     <message>
         <source>Chooses the folder for this and later images, until you quit.</source>
-        <translation>Wählt den Ordner für dieses und weitere Abbilder, bis das Programm beendet wird.</translation>
+        <translation>Wählt den Ordner für dieses und weitere Disk-Images, bis das Programm beendet wird.</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
@@ -941,11 +941,42 @@
     </message>
     <message>
         <source>Images go here because you cannot write to the folder of this program, &quot;%1&quot;.</source>
-        <translation>Abbilder kommen hierher, weil Sie in den Ordner dieses Programms, „%1“, nicht schreiben können.</translation>
+        <translation>Disk-Images kommen hierher, weil Sie in den Ordner dieses Programms, „%1“, nicht schreiben können.</translation>
     </message>
     <message>
         <source>Free space: %1</source>
         <translation>Freier Platz: %1</translation>
+    </message>
+    <message>
+        <source>Only moves the indicator; making an image does not.</source>
+        <translation>Bewegt nur die Anzeige; das Anlegen eines Disk-Images tut das nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DiagnosticsWindow</name>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message>
+        <source>For finding faults in this program. None of it is saved.</source>
+        <translation>Zur Fehlersuche in diesem Programm. Nichts davon wird gespeichert.</translation>
+    </message>
+    <message>
+        <source>Read the local l&amp;ist</source>
+        <translation>Lokale Liste l&amp;esen</translation>
+    </message>
+    <message>
+        <source>The table of disk images shows the second of two equal lists. You see no difference.</source>
+        <translation>Die Tabelle der Disk-Images zeigt die zweite von zwei gleichen Listen. Ein Unterschied ist nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the save panel…</source>
+        <translation>S&amp;peicherdialog testen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Shows a panel and writes the chosen place to standard output. Nothing is made.</source>
+        <translation>Zeigt einen Dialog und schreibt den gewählten Ort auf die Standardausgabe. Es wird nichts angelegt.</translation>
     </message>
 </context>
 <context>
@@ -1006,11 +1037,11 @@
     </message>
     <message>
         <source>&amp;New Blank Image…</source>
-        <translation>Neues &amp;leeres Abbild …</translation>
+        <translation>Neues &amp;leeres Disk-Image&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Add Volume…</source>
-        <translation>Datenträger &amp;hinzufügen …</translation>
+        <translation>Disk-Image &amp;hinzufügen&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1018,11 +1049,11 @@
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation>&amp;Programmeinstellungen …</translation>
+        <translation>&amp;Programmeinstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Beta Agreement…</source>
-        <translation>&amp;Beta-Vereinbarung …</translation>
+        <translation>&amp;Beta-Vereinbarung&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;About Quillon Settings</source>
@@ -1030,11 +1061,15 @@
     </message>
     <message>
         <source>Pre&amp;view…</source>
-        <translation>&amp;Vorschau…</translation>
+        <translation>&amp;Vorschau&#xa0;…</translation>
     </message>
     <message>
         <source>&amp;Reset This Page</source>
         <translation>Diese Seite &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics…</source>
+        <translation>&amp;Diagnose&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -1117,7 +1152,7 @@
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation>&amp;Auswählen …</translation>
+        <translation>&amp;Auswählen&#xa0;…</translation>
     </message>
     <message>
         <source>Chooses the application.</source>
@@ -1148,7 +1183,7 @@
     </message>
     <message>
         <source>After a &amp;save:</source>
-        <translation>Nach dem Nach dem &amp;Sichern:amp;Speichern:</translation>
+        <translation>Nach dem &amp;Speichern:</translation>
     </message>
     <message>
         <source>- will be dropped   * will be changed   + will be added</source>
@@ -1183,7 +1218,7 @@
     </message>
     <message>
         <source>Prefere&amp;nces…</source>
-        <translation>Programme&amp;instellungen …</translation>
+        <translation>Programme&amp;instellungen&#xa0;…</translation>
     </message>
     <message>
         <source>Where Quillon is, and how this program behaves.</source>
@@ -1250,11 +1285,11 @@
     </message>
     <message>
         <source>Saved %1</source>
-        <translation>Gespeichert %1</translation>
+        <translation>Gespeichert um %1</translation>
     </message>
     <message>
         <source>Quillon was started %1</source>
-        <translation>Quillon wurde gestartet %1</translation>
+        <translation>Quillon wurde um %1 gestartet</translation>
     </message>
     <message>
         <source>Quillon was not started: it could not be executed</source>
@@ -1269,7 +1304,7 @@
     <name>desktop::VolumeView</name>
     <message>
         <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation>Noch keine Festplattenabbilder. Mit der Einfügetaste oder „Hinzufügen&#xa0;…“ nehmen Sie eines auf.</translation>
+        <translation>Noch keine Disk-Images. Mit der Einfügetaste oder „Hinzufügen&#xa0;…“ nehmen Sie eines auf.</translation>
     </message>
 </context>
 </TS>
