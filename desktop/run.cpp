@@ -4,7 +4,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
-#include <algorithm>
 
 #include "desktop/appearance.h"
 #include "desktop/application.h"
@@ -30,18 +29,6 @@ void translate(QTranslator& translator, const char* name, const QString& folder)
   }
 }
 
-// A menu bar asks over D-Bus whether a panel shows the menus, which takes time before the first
-// paint. These desktops have or can have such panels.
-void askForMenuPanels() {
-  const QString names = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
-  const QStringList having = {QLatin1String("KDE"), QLatin1String("Unity"), QLatin1String("MATE"),
-                              QLatin1String("XFCE")};
-  const bool mayHave = std::any_of(having.begin(), having.end(), [&](const QString& name) {
-    return names.contains(name, Qt::CaseInsensitive);
-  });
-  QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar, !mayHave);
-}
-
 }  // namespace
 
 int run(int& argc, char** argv, const Surroundings& surroundings) {
@@ -50,7 +37,6 @@ int run(int& argc, char** argv, const Surroundings& surroundings) {
   QApplication::setApplicationName(QLatin1String("quillon-settings"));
   QApplication::setApplicationVersion(QLatin1String(surroundings.version));
 
-  askForMenuPanels();
   makeReadable();
   QTranslator ours;
   QTranslator qts;
