@@ -30,40 +30,36 @@ class Window : public tests::WindowTest {
   }
 
   std::string help() const { return find<QLabel>("helpLine")->text().toStdString(); }
+  std::string helpOf(const char* name) const { return find(name)->whatsThis().toStdString(); }
 
   QAction* menuEntry(const char* text) const {
-    for (QAction* const entry : window->findChildren<QAction*>()) {
-      if (entry->text() == QString::fromUtf8(text)) {
-        return entry;
-      }
-    }
-    throw std::logic_error(std::string("no entry ") + text);
+    const auto entries = window->findChildren<QAction*>();
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const QAction* entry) {
+      return entry->text() == QString::fromUtf8(text);
+    });
+    return found != entries.end() ? *found : throw std::logic_error(text);
   }
 
   /// The controls that are marked as changed.
   Names marked() const {
     Names names;
-    for (const QLabel* const label : window->findChildren<QLabel*>()) {
-      if (label->font().bold() && label->buddy() != nullptr) {
-        names.insert(label->buddy()->objectName().toStdString());
+    for (const QWidget* const widget : window->findChildren<QWidget*>()) {
+      const auto* const label = qobject_cast<const QLabel*>(widget);
+      const QWidget* const marks = label != nullptr ? label->buddy() : widget;
+      const bool canMark = label != nullptr || qobject_cast<const QCheckBox*>(widget) != nullptr;
+      if (canMark && marks != nullptr && widget->font().bold()) {
+        names.insert(marks->objectName().toStdString());
       }
-    }
-    for (const QCheckBox* const box : window->findChildren<QCheckBox*>()) {
-      if (box->font().bold()) {
-        names.insert(box->objectName().toStdString());
-      }
-    }
-    if (window->isWindowModified() == names.empty()) {
-      names.insert("the window's title differs");
     }
     return names;
   }
 
   // The marks follow once the program has nothing else to do.
-  void expectMarked(const Names& wanted, const char* why = "") {
+  void expectMarked(const Names& wanted) {
     QTest::qWait(10);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return marked() == wanted; })) << why;
-    EXPECT_EQ(marked(), wanted) << why;
+    (void)QTest::qWaitFor([&] { return marked() == wanted; });
+    EXPECT_EQ(marked(), wanted);
+    EXPECT_NE(window->isWindowModified(), wanted.empty());
   }
 };
 
@@ -95,78 +91,54 @@ TEST_F(Window, ReadsAsDescribedTabByTab) {
   EXPECT_EQ(tabs()->currentIndex(), 1) << "there is no seventh tab";
 }
 
-TEST_F(Window, FindsASettingByItsNameItsKeyAndItsHelp) {
-  struct Row {
-    const char* typed;
-    const char* found;
-  };
-  for (const auto& [typed, found] :
-       std::initializer_list<Row>{{.typed = "RAM size", .found = "ramSizeMB"},
-                                  {.typed = "cd-rom DRIVE", .found = "stateCDROM"},
-                                  {.typed = "jitcachesize", .found = "jitCache"},
-                                  {.typed = "silent", .found = "disableSound"},
-                                  {.typed = "the rom of", .found = "romFile"}}) {
-    SCOPED_TRACE(typed);
-    open();
-    key(Qt::Key_F, control);
-    EXPECT_EQ(focus(), "findSetting");
-    type(typed);
-    QTest::qWait(1);
-    key(Qt::Key_Return);
-    EXPECT_EQ(focus(), found);
-    EXPECT_TRUE(find(found)->isVisible());
-    const auto* const field = find<QLineEdit>("findSetting");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return field->text().isEmpty(); }));
-  }
-}
-
 TEST_F(Window, MarksWhatASaveWouldChange) {
   open("disk /A\nrom /old\ncpu 2\n");
   window->completePages();
-  expectMarked(Names{});
+  expectMarked({});
   showTab("Machine");
   typeInto("romFile", "/new");
   click("stateCDROM");
   find("cpuType")->setFocus();
   key(Qt::Key_Down);
-  expectMarked(Names{"romFile", "stateCDROM", "cpuType"});
+  expectMarked({"romFile", "stateCDROM", "cpuType"});
   key(Qt::Key_S, control);
-  expectMarked(Names{});
+  expectMarked({});
   click("stateCDROM");
   click("stateCDROM");
-  expectMarked(Names{}, "put back by hand");
+  expectMarked({});
   showTab("Display");
   typeInto("screenWidth", "12");
   key(Qt::Key_Return);
-  expectMarked(Names{"screenType", "screenWidth", "screenHeight"}, "parts of one value");
+  expectMarked({"screenType", "screenWidth", "screenHeight"});
   key(Qt::Key_S, control);
   showTab("Volumes");
   find<QAbstractItemView>("tableView")->selectAll();
   click("removeVol");
-  expectMarked(Names{"tableView"});
+  expectMarked({"tableView"});
 }
 
 TEST_F(Window, ExplainsWhatHasTheFocusOrThePointer) {
   open();
   window->completePages();
-  EXPECT_EQ(help(), "Move to a setting to read here what it does.");
+  const std::string general = "Move to a setting to read here what it does.";
+  EXPECT_EQ(help(), general);
   showTab("Machine");
   find("ramSizeMB")->setFocus();
-  EXPECT_EQ(help(), find("ramSizeMB")->whatsThis().toStdString());
+  EXPECT_EQ(help(), helpOf("ramSizeMB"));
   QEnterEvent enter({}, {}, {});
   QApplication::sendEvent(find("cpuType"), &enter);
-  EXPECT_EQ(help(), find("cpuType")->whatsThis().toStdString());
+  EXPECT_EQ(help(), helpOf("cpuType"));
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(find("cpuType"), &leave);
-  EXPECT_EQ(help(), find("ramSizeMB")->whatsThis().toStdString());
+  EXPECT_EQ(help(), helpOf("ramSizeMB"));
   tabs()->tabBar()->setFocus();
-  EXPECT_EQ(help(), "Move to a setting to read here what it does.");
+  EXPECT_EQ(help(), general);
 }
 
 TEST_F(Window, ResetsASettingFromItsMenu) {
   open("rom /x\nramsize 8388608\nnocdrom true\n");
   window->completePages();
-  const auto reset = [&](const char* name) {
+  const auto expectReset = [&](const char* name, const char* shownDefault) {
     showTabOf(find(name));
     QString text;
     QTimer::singleShot(20, &*window, [&] {
@@ -176,13 +148,13 @@ TEST_F(Window, ResetsASettingFromItsMenu) {
       QApplication::activePopupWidget()->close();
     });
     Q_EMIT find(name)->customContextMenuRequested({});
-    return text.toStdString();
+    EXPECT_EQ(text, QLatin1String("Reset to Default (%1)").arg(QLatin1String(shownDefault)));
   };
-  EXPECT_EQ(reset("romFile"), "Reset to Default (Put the path to your ROM file here)");
-  EXPECT_EQ(reset("ramSizeMB"), "Reset to Default (64)");
-  EXPECT_EQ(reset("stateCDROM"), "Reset to Default (off)");
-  EXPECT_EQ(reset("cpuType"), "Reset to Default (68030)");
-  EXPECT_EQ(reset("audioOut"), "Reset to Default (empty)");
+  expectReset("romFile", "Put the path to your ROM file here");
+  expectReset("ramSizeMB", "64");
+  expectReset("stateCDROM", "off");
+  expectReset("cpuType", "68030");
+  expectReset("audioOut", "empty");
   EXPECT_EQ(find<QComboBox>("ramSizeMB")->currentText(), QLatin1String("64"));
   key(Qt::Key_S, control);
   EXPECT_EQ(file(), tests::Model("").text());
@@ -191,24 +163,23 @@ TEST_F(Window, ResetsASettingFromItsMenu) {
 TEST_F(Window, KeysDoWhatTheMenusSay) {
   open();
   struct Row {
-    Qt::Key letter;           // pressed with Ctrl
-    const char* said;         // is part of what is said
-    const char* opened = "";  // the window that comes up
+    Qt::Key letter;  // pressed with Ctrl
+    const char* opened;
+    const char* said;  // is part of what is said
   };
-  for (const auto& [letter, said, opened] : std::initializer_list<Row>{
-           {.letter = Qt::Key_S, .said = "post write prefs test\n"},
-           {.letter = Qt::Key_Return, .said = "<launch "},
-           {.letter = Qt::Key_N, .said = "create loaded", .opened = "createSheet"},
-           {.letter = Qt::Key_Q, .said = "<terminate>\n"},
-           {.letter = Qt::Key_Comma, .said = "started", .opened = "preferencesWindow"}}) {
-    SCOPED_TRACE(said);
+  for (const Row& row :
+       {Row{.letter = Qt::Key_S, .opened = "settingsWindow", .said = "post write prefs test\n"},
+        Row{.letter = Qt::Key_Return, .opened = "settingsWindow", .said = "<launch "},
+        Row{.letter = Qt::Key_N, .opened = "createSheet", .said = "create loaded"},
+        Row{.letter = Qt::Key_Q, .opened = "settingsWindow", .said = "<terminate>\n"},
+        Row{.letter = Qt::Key_Comma, .opened = "preferencesWindow", .said = "started"}}) {
     fake.said();
-    key(letter, control);
+    key(row.letter, control);
     QTest::qWait(1);
-    EXPECT_NE(fake.said().find(said), std::string::npos);
+    EXPECT_NE(fake.said().find(row.said), std::string::npos) << row.said;
     QWidget* const top = QApplication::activeWindow();
+    EXPECT_EQ(top->objectName(), QLatin1String(row.opened));
     if (top != &*window) {
-      EXPECT_EQ(top->objectName().toStdString(), opened);
       delete top;
       activate(&*window);
     }
@@ -228,8 +199,7 @@ TEST_F(Window, StartIsThereOnlyWhenAPlaceIsChosen) {
     fake.said();
     EXPECT_EQ(find("startQuil")->isEnabled(), enabled);
     EXPECT_EQ(menuEntry("S&tart")->isEnabled(), enabled);
-    EXPECT_EQ(find("startQuil")->toolTip().contains(QLatin1String("choose where Quillon is")),
-              !enabled);
+    EXPECT_NE(find("startQuil")->toolTip().contains(QLatin1String("choose where")), enabled);
     key(Qt::Key_Return, control);
     EXPECT_EQ(fake.said().find("<launch ") != std::string::npos, enabled);
   }

@@ -85,46 +85,32 @@ TEST_F(Windows, ImagesAreMadeOrRefusedWithAReason) {
   open();
   const fs::path home(fake.home.path());
   fs::create_directory(home / "folder.dsk");
-  ASSERT_EQ(::mkfifo((home / "fifo.dsk").c_str(), 0600), 0);
+  ASSERT_EQ(::mkfifo((home / "pipe.dsk").c_str(), 0600), 0);
   fake.home.write("old.dsk", std::string(3 << 20, 'x'));
-  struct Row {
-    std::string name;
-    const char* size;
-    std::string status;           // its beginning
-    std::int64_t megabytes = -1;  // of the image that is made
-  };
   std::signal(SIGXFSZ, SIG_IGN);
   rlimit limit{};
   ::getrlimit(RLIMIT_FSIZE, &limit);
   const rlimit less{100 << 20, limit.rlim_max};
   ::setrlimit(RLIMIT_FSIZE, &less);
-  for (const auto& [name, size, status, megabytes] : std::initializer_list<Row>{
-           {.name = "", .size = "1", .status = "You need to enter a name!"},
-           {.name = "test", .size = "20", .status = "'test.dsk' - 20 MB Done!", .megabytes = 20},
-           {.name = "zero", .size = "0", .status = "'zero.dsk' - 0 MB Done!", .megabytes = 0},
-           {.name = "usual", .size = "a", .status = "'usual.dsk' - 100 MB Done!", .megabytes = 100},
-           {.name = "old", .size = "+1", .status = "'old.dsk' - 1 MB Done!", .megabytes = 1},
-           {.name = "minus", .size = "-1", .status = "The size must be"},
-           {.name = "large", .size = "8796093022208", .status = "The size must be"},
-           {.name = "larger", .size = "99999999999999999999", .status = "The size must be"},
-           {.name = "none/x", .size = "1", .status = "Could not write 'none/x.dsk': No such file"},
-           {.name = "folder", .size = "1", .status = "Could not write 'folder.dsk': Is a dir"},
-           {.name = "fifo", .size = "1", .status = "Could not write 'fifo.dsk': "},
-           {.name = "full", .size = "101", .status = "Could not write 'full.dsk': File too"}}) {
-    SCOPED_TRACE(name + " " + size);
-    const bool made = megabytes >= 0;
+  for (const tests::Case& each :
+       tests::cases("images.txt", {"name", "size", "status", "makes MB"})) {
+    SCOPED_TRACE(each.written);
+    const bool made = each.has("makes MB");
+    const std::string image = each["name"] + ".dsk";
     openBy("bitCreate");
     EXPECT_EQ(text("createImage"), "Create");
-    typeInto("createName", name.c_str());
-    typeInto("createSize", size);
+    typeInto("createName", each["name"].c_str());
+    typeInto("createSize", each["size"].c_str());
     key(Qt::Key_Return);
-    EXPECT_TRUE(text("createStatus").starts_with("Status: " + status)) << text("createStatus");
+    EXPECT_TRUE(text("createStatus").starts_with("Status: " + each["status"]))
+        << text("createStatus");
     const QColor color = find("createStatus")->palette().color(QPalette::WindowText);
     EXPECT_EQ(color.blue() > color.red(), made) << "blue for done, red for refused";
     EXPECT_EQ(text("createImage"), made ? "Done" : "Create");
-    EXPECT_EQ(fs::is_regular_file(home / (name + ".dsk")), made);
-    EXPECT_TRUE(!made || fake.home.read(name + ".dsk") ==
-                             std::string(static_cast<std::size_t>(megabytes) << 20U, '\0'));
+    EXPECT_EQ(fs::is_regular_file(home / image), made);
+    if (made) {
+      EXPECT_TRUE(fake.home.read(image) == std::string(std::stoul(each["makes MB"]) << 20U, '\0'));
+    }
     leave(made ? Qt::Key_Return : Qt::Key_Escape);  // Return presses Done
   }
   ::setrlimit(RLIMIT_FSIZE, &limit);
@@ -135,11 +121,10 @@ TEST_F(Windows, ThePreferencesFollowEachChoice) {
   open();
   tests::Golden golden("windows/choices.txt", fake.home.path());
   const auto expectAfter = [&](const std::string& step) {
-    const std::string found = fake.said() + "Quillon is at \"" + sharedVar::pathToQuil +
-                              "\", mode " + std::to_string(sharedVar::startFlag) + ", Start is " +
-                              (sharedVar::startState ? "enabled" : "disabled") + ".\n" +
-                              frontWindow();
-    golden.expect(step, found);
+    golden.expect(step, fake.said() + "Quillon is at \"" + sharedVar::pathToQuil + "\", mode " +
+                            std::to_string(sharedVar::startFlag) + ", Start is " +
+                            (sharedVar::startState ? "enabled" : "disabled") + ".\n" +
+                            frontWindow());
   };
   const auto open = [&](const std::string& location, std::int64_t mode) {
     if (QApplication::activeWindow() != &*window) {
@@ -152,32 +137,25 @@ TEST_F(Windows, ThePreferencesFollowEachChoice) {
     openBy("openPreferences");
     expectAfter("Opened with \"" + location + "\" and mode " + std::to_string(mode));
   };
-  const auto clickThere = [&](const char* name) {
+  for (const int mode : {7, 1, 2}) {
+    open("/o/Quillon.app", mode);
+  }
+  open("", 2);
+  for (const char* const name : {"testLaunch", "quilLocal", "quilOff", "quilCustom"}) {
     click(name);
     expectAfter(std::string("Then a click on ") + name);
-  };
-  const auto enter = [&](const char* path, Qt::Key end) {
-    typeInto("Quillon", path);
-    key(end);
-    expectAfter(std::string("Then ") + path + " is typed");
-  };
-  const auto choose = [&](const char* path) {
+  }
+  typeInto("Quillon", "/x/quillon.app");
+  key(Qt::Key_Return);
+  expectAfter("Then /x/quillon.app is typed");
+  typeInto("Quillon", "/x/Quillon");
+  key(Qt::Key_Tab);
+  expectAfter("Then /x/Quillon is typed");
+  for (const char* const path : {"/y/Quillon 2", "/y/other"}) {
     fake.panels.answers.push_back({platform::Location::fromPath(path)});
     click("chooseQuillon");
     expectAfter(std::string("Then ") + path + " is chosen");
-  };
-  open("/o/Quillon.app", 7);
-  open("/o/Quillon.app", 1);
-  open("/o/Quillon.app", 2);
-  open("", 2);
-  clickThere("testLaunch");
-  clickThere("quilLocal");
-  clickThere("quilOff");
-  clickThere("quilCustom");
-  enter("/x/quillon.app", Qt::Key_Return);
-  enter("/x/Quillon", Qt::Key_Tab);
-  choose("/y/Quillon 2");
-  choose("/y/other");
+  }
   typeInto("Quillon", "/bin/any");
   click("testLaunch");
   expectAfter("Then /bin/any is typed and tested");

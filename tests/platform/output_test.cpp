@@ -4,56 +4,116 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <array>
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <optional>
+#include <thread>
 
 namespace platform {
+namespace {
 
-TEST(DescriptorOutput, GivesUpOnAReaderThatSleepsOrIsGone) {
+using namespace std::chrono_literals;
+
+/// A pipe with its two ends.
+struct Pipe {
+  Pipe() {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe(ends.data()), 0);
+    reading = Descriptor(ends[0]);
+    writing = Descriptor(ends[1]);
+  }
+
+  /// Takes up to so many bytes; false at the end.
+  bool take(std::size_t count) {
+    std::string bytes(count, ' ');
+    const ssize_t got = ::read(reading.get(), bytes.data(), count);
+    taken.append(bytes, 0, got > 0 ? static_cast<std::size_t>(got) : 0);
+    return got > 0;
+  }
+
+  Descriptor reading{-1};
+  Descriptor writing{-1};
+  std::string taken;
+};
+
+void fill(const Pipe& pipe) {
+  DescriptorOutput(pipe.writing.get()).print(std::string((64U << 10U) - 1, '-'));
+}
+
+TEST(DescriptorOutput, GivesUpOnAReaderThatIsSlowOrSleepsOrIsGone) {
   const auto former = ::signal(SIGPIPE, SIG_IGN);
-  int sleeping[2], gone[2];
-  ASSERT_TRUE(::pipe(sleeping) == 0 && ::pipe(gone) == 0);
+  Pipe gone;
+  gone.reading = Descriptor(-1);
+  Pipe sleeping;
+  Pipe slow;
+  fill(slow);
   const Descriptor screen(::posix_openpt(O_RDWR | O_NOCTTY));
   ASSERT_TRUE(::grantpt(screen.get()) == 0 && ::unlockpt(screen.get()) == 0);
-  const int terminal = ::open(::ptsname(screen.get()), O_RDWR | O_NOCTTY);
-  ::close(gone[0]);
-  for (const int descriptor : {gone[1], sleeping[1], terminal}) {
+  const Descriptor terminal(::open(::ptsname(screen.get()), O_RDWR | O_NOCTTY));
+  std::atomic<bool> waits = true;
+  std::thread reader([&] {
+    while (waits && slow.take(8192)) {
+      std::this_thread::sleep_for(400ms);
+    }
+  });
+  for (const Descriptor* const end : std::initializer_list<const Descriptor*>{
+           &gone.writing, &sleeping.writing, &slow.writing, &terminal}) {
     const auto start = std::chrono::steady_clock::now();
-    DescriptorOutput output(descriptor);
-    for (int line = 0; line < 50; ++line) {
+    DescriptorOutput output(end->get());
+    for (int line = 0; line < 20; ++line) {
       output.print("a list of volumes: ", std::string(24'000, 'x'));
       output.print("a short line");
     }
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(6));
-    EXPECT_EQ(::fcntl(descriptor, F_GETFL) & O_NONBLOCK, 0) << "others share it";
-    ::close(descriptor);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 4s);
+    EXPECT_EQ(::fcntl(end->get(), F_GETFL) & O_NONBLOCK, 0) << "others share it";
   }
-  ::close(sleeping[0]);
+  waits = false;
+  reader.join();
   ::signal(SIGPIPE, former);
 }
 
-TEST(DescriptorOutput, GatheredLinesKeepTheirOrderAndAreAllThere) {
-  int ends[2];
-  ASSERT_EQ(::pipe(ends), 0);
+TEST(DescriptorOutput, ASlowReaderGetsTheLinesOfTheNextActionAllTheSame) {
+  Pipe pipe;
+  fill(pipe);
+  DescriptorOutput output(pipe.writing.get());
   std::string wanted;
-  DescriptorOutput output(ends[1]);
+  for (const auto* const line : {"a start", "a save"}) {
+    std::thread reader([&] {
+      std::this_thread::sleep_for(1200ms);
+      pipe.take(40960);
+    });
+    wanted += std::string(32000, '.') + line + "\n";
+    output.print(std::string(32000, '.'), line);
+    reader.join();
+    std::this_thread::sleep_for(1500ms);
+  }
+  pipe.writing = Descriptor(-1);
+  while (pipe.take(65536)) {
+  }
+  EXPECT_TRUE(pipe.taken.ends_with(wanted));
+}
+
+TEST(DescriptorOutput, GatheredLinesKeepTheirOrderAndAreAllThere) {
+  Pipe pipe;
+  std::string wanted;
+  DescriptorOutput output(pipe.writing.get());
   for (const bool gathers : {true, false}) {
     std::optional<Output::Gathering> gathering;
     if (gathers) {
       gathering.emplace(output);
     }
     for (const std::size_t size : {5U, 9000U, 20U, 4096U, 4090U, 0U, 3U}) {
-      output.print(std::string(size, static_cast<char>('a' + size % 26)), "!");
-      wanted += std::string(size, static_cast<char>('a' + size % 26)) + "!\n";
+      const std::string line(size, static_cast<char>('a' + size % 26));
+      output.print(line, "!");
+      wanted += line + "!\n";
     }
   }
-  std::string found(wanted.size() + 1, ' ');
-  found.resize(static_cast<std::size_t>(::read(ends[0], found.data(), found.size())));
-  EXPECT_EQ(found, wanted);
-  ::close(ends[0]);
-  ::close(ends[1]);
+  pipe.take(wanted.size() + 1);
+  EXPECT_EQ(pipe.taken, wanted);
 }
 
+}  // namespace
 }  // namespace platform

@@ -14,6 +14,7 @@
 
 #include "platform/bundle.h"
 #include "platform/descriptor.h"
+#include "tests/support/data.h"
 #include "tests/support/temporary_folder.h"
 
 namespace platform {
@@ -29,8 +30,7 @@ printf %s "$0" >program
 mv found.new found
 )";
 
-class WorkspaceTest : public ::testing::Test {
- protected:
+struct WorkspaceTest : testing::Test {
   WorkspaceTest() { fs::create_directory(home); }
 
   // Makes a script that may be run.
@@ -43,10 +43,8 @@ class WorkspaceTest : public ::testing::Test {
   // What the program that is started at `path` found; empty when none was started.
   std::string launch(const std::string& path) {
     fs::remove(home + "/found");
-    if (!workspace.launchApplication(path)) {
-      return {};
-    }
-    for (int round = 0; round < 1000 && !fs::exists(home + "/found"); ++round) {
+    const bool starts = workspace.launchApplication(path);
+    for (int round = 0; starts && round < 1000 && !fs::exists(home + "/found"); ++round) {
       std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     return folder.read("home/found");
@@ -77,22 +75,13 @@ TEST_F(WorkspaceTest, FindsTheExecutable) {
   const std::string start = "<plist><dict><key>CFBundleExecutable</key><string>";
   folder.write("Q.app/Contents/Info.plist", start + "emulator</string></dict></plist>");
   folder.write("Up.app/Contents/Info.plist", start + "../../evil</string></dict></plist>");
-  const std::pair<std::string, std::string> cases[] = {
-      // what is started, what then runs
-      {folder.path("plain"), "plain"},
-      {folder.path("Q.app"), "Q.app/Contents/MacOS/emulator"},
-      {folder.path("Up.app"), "Up.app/Contents/MacOS/Up"},
-      {folder.path("Bare.app//"), "Bare.app/Contents/MacOS/Bare"},
-      {folder.path("/a  b\n'\"$(x);*/Q \".app"), "a  b\n'\"$(x);*/Q \".app/Contents/MacOS/Q \""},
-      {folder.path("e%20f/Q.app"), "e%20f/Q.app/Contents/MacOS/Q"},
-      {folder.path("/-rf///-n"), "-rf/-n"},
-      {"-rf/-n", "-rf/-n"}};
+  const auto cases = tests::cases("executables.txt", {"launches", "runs"}, folder.path());
   const fs::path before = fs::current_path();
   fs::current_path(folder.path());
-  for (const auto& [path, executable] : cases) {
-    const std::string expected = program(executable);
-    EXPECT_NE(launch(path), "") << path;
-    EXPECT_TRUE(fs::equivalent(folder.read("home/program"), expected)) << path;
+  for (const tests::Case& each : cases) {
+    const std::string expected = program(each["runs"]);
+    EXPECT_NE(launch(each["launches"]), "") << each.written;
+    EXPECT_TRUE(fs::equivalent(folder.read("home/program"), expected)) << each.written;
   }
   fs::current_path(before);
 }

@@ -37,7 +37,7 @@ TEST(CreateViewController, WritesTheTypedNameIntoTheOwnFolder) {
     fs::create_directories(sheet.fake.home.path(other));
   }
   sheet.make("sub%20x/in");
-  EXPECT_TRUE(sheet.has("100%/sub%20x/in.dsk")) << sheet.controller.createStatus.stringValue();
+  EXPECT_TRUE(sheet.has("100%/sub%20x/in.dsk"));
 }
 
 TEST(CreateViewController, WhereItMayNotWriteImagesGoToThePersonsData) {
@@ -48,9 +48,9 @@ TEST(CreateViewController, WhereItMayNotWriteImagesGoToThePersonsData) {
   EXPECT_EQ(sheet.controller.imageFolder.stringValue(), data);
   EXPECT_TRUE(sheet.controller.folderState().isWritable);
   sheet.make("missing/disk");
-  EXPECT_FALSE(fs::exists(data)) << "an image that failed left a folder behind";
+  EXPECT_FALSE(fs::exists(data)) << "the folder of an image that failed";
   sheet.make("disk");
-  EXPECT_TRUE(fs::exists(data + "disk.dsk")) << sheet.controller.createStatus.stringValue();
+  EXPECT_TRUE(fs::exists(data + "disk.dsk"));
 }
 
 TEST(CreateViewController, TheChosenFolderHoldsForTheNextSheet) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/data.h"
 #include "tests/support/fake_host.h"
 
 namespace volumes {
@@ -43,31 +44,19 @@ struct VolumeTableTest : testing::Test {
 };
 
 TEST_F(VolumeTableTest, DropsRowsAboveARow) {
-  struct Row {
-    Strings items;
-    std::size_t above;
-    std::string order;
-    std::vector<std::size_t> selected;  // of D and B, which were selected in this order
-  };
-  const std::vector<Row> rows = {
-      {.items = {"0"}, .above = 3, .order = "BCADE", .selected = {3, 0}},
-      {.items = {"3"}, .above = 0, .order = "DABCE", .selected = {0, 2}},
-      {.items = {"0", "2"}, .above = 4, .order = "BDACE", .selected = {1, 0}},
-      {.items = {"1", "3"}, .above = 1, .order = "ABDCE", .selected = {2, 1}},
-      {.items = {"2"}, .above = 5, .order = "ABDEC", .selected = {2, 1}},
-      {.items = {"2"}, .above = 99, .order = "ABDEC", .selected = {2, 1}},
-      {.items = {"7", "-1", "x", ""}, .above = 1, .order = "ABCDE", .selected = {3, 1}},
-      {.items = {}, .above = 2, .order = "ABCDE", .selected = {3, 1}}};
-  for (const auto& [items, above, order, selected] : rows) {
-    SCOPED_TRACE(platform::listText(items) + " above " + std::to_string(above));
+  for (const tests::Case& each :
+       tests::cases("volume-drops.txt", {"rows", "above", "list", "selected"})) {
+    SCOPED_TRACE(each.written);
     VolumeTable table(host.output, host.panels);
     load(table, "ABCDE");
     table.tableView.selectRows({3, 1});
     EXPECT_EQ(table.validateDrop(platform::DropOperation::on), platform::DragOperation::none);
     EXPECT_EQ(table.validateDrop(platform::DropOperation::above), platform::DragOperation::move);
-    EXPECT_TRUE(table.acceptDrop(items, above));
-    EXPECT_EQ(orderOf(table), order);
-    EXPECT_EQ(table.tableView.selectedRows(), selected);
+    EXPECT_TRUE(table.acceptDrop(each.all("rows"), std::stoul(each["above"])));
+    EXPECT_EQ(orderOf(table), each["list"]);
+    const auto selected = table.tableView.selectedRows();
+    EXPECT_EQ(std::to_string(selected.at(0)) + ", " + std::to_string(selected.at(1)),
+              each["selected"]);
     EXPECT_FALSE(table.viewFor(std::nullopt, 0)) << "it asks so after a drop, and reloads";
   }
 }
