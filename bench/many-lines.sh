@@ -22,7 +22,7 @@ mkdir "$folder/home"
 echo "kind       lines    own s    plain s  ratio  (medians)"
 for kind in keyword rom ramsize "a b c" disk; do
   for count in "$lines" $((2 * lines)); do
-    samplePreferences 0 "$count" "$kind" >"$folder/lines"
+    "$binaries/sample" 0 "$count" "$kind" >"$folder/lines"
     rm -f "$folder"/{own,plain,ratios}
     for _ in $(seq "$rounds"); do
       cp "$folder/lines" "$folder/home/.quillon_prefs"

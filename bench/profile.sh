@@ -9,8 +9,8 @@ set -euo pipefail
 buildTargets quillon-settings floor first_paint
 installMissing linux-perf
 rounds=${1:-12}
-openDisplay
-samplePreferences 6 0 >"$folder/.quillon_prefs"
+openDisplayAndFolder
+"$binaries/sample" 6 0 >"$folder/.quillon_prefs"
 
 # Samples of a start as lines of nanoseconds and the file that the code is in.
 sample() {

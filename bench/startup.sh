@@ -10,13 +10,13 @@ set -euo pipefail
 . "$(dirname "$(readlink -f "$0")")/common.sh"
 buildTargets quillon-settings floor first_paint
 rounds=${1:-15}
-openDisplay
+openDisplayAndFolder
 
 declare -A disks=([floor]=6 [lines40]=6 [disks1]=1 [disks1000]=1000)
 names=(floor lines40 disks1 disks1000)
 for name in "${names[@]}"; do
   mkdir "$folder/$name"
-  samplePreferences "${disks[$name]}" 0 >"$folder/$name/.quillon_prefs"
+  "$binaries/sample" "${disks[$name]}" 0 >"$folder/$name/.quillon_prefs"
 done
 
 start() {

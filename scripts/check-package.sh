@@ -59,7 +59,7 @@ checkStart() {
 # checkImage PROGRAM FOLDER: that a new disk image goes to the folder.
 checkImage() {
   # The sources are perhaps in a folder that nobody else can read.
-  cp "$root/scripts/virtual_display.sh" "$scratch"
+  cp "$root"/scripts/{display,virtual_display}.sh "$scratch"
   asPerson "$scratch/virtual_display.sh" --image disk "$home/pictures" "$1" >"$scratch/log" 2>&1 ||
     { cat "$scratch/log" >&2 && fail "$1 cannot be used."; }
   [ "$(stat -c %s "$2/disk.dsk")" = 1048576 ] || fail "$1 made no disk image in $2."

@@ -10,6 +10,8 @@
 #   --screen WIDTHxHEIGHT  how large the screen is
 #   --locale NAME          whose language is shown; the RAM size needs the English keys
 set -euo pipefail
+# shellcheck source=scripts/display.sh
+. "$(dirname "$(readlink -f "$0")")/display.sh"
 
 megabytes='' image='' windows=false screen=1280x1024 locale=C.UTF-8
 while [[ $1 == --* ]]; do
@@ -54,17 +56,6 @@ waitFor() {
 
 isRunning() { kill -0 "$1" 2>/dev/null; }
 hasEnded() { ! isRunning "$1"; }
-
-startDisplay() {
-  Xvfb -displayfd 3 -screen 0 "${screen}x24" -noreset -nolisten tcp 3>"$scratch/display" \
-    2>"$scratch/xvfb" &
-  children+=($!)
-  waitFor 20 [ -s "$scratch/display" ] || fail "Xvfb does not start: $(<"$scratch/xvfb")"
-  DISPLAY=:$(<"$scratch/display")
-  export DISPLAY QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$scratch
-  export LC_ALL=C.UTF-8
-  unset WAYLAND_DISPLAY LANGUAGE
-}
 
 visibleWindows() { xdotool search --onlyvisible --class quillon-settings 2>/dev/null; }
 
@@ -168,7 +159,10 @@ makeImage() {
   waitFor 20 hasFocus || fail "The window does not take the focus back."
 }
 
-startDisplay
+openDisplay "$scratch" "$screen"
+children+=("$display")
+export QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$scratch LC_ALL=C.UTF-8
+unset WAYLAND_DISPLAY LANGUAGE
 LC_ALL=$locale "$@" &
 program=$!
 children+=("$program")
