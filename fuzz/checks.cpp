@@ -2,6 +2,7 @@
 // more.
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 
 #include "checks/findings.h"
@@ -12,9 +13,10 @@
 
 namespace {
 
-/// A folder with one file of each kind, each named by a letter. "n" is none of them.
-class Kinds : public tests::TemporaryFolder {
- public:
+constexpr std::string_view kinds = "fedlhcn";
+
+/// A folder with one file of each kind, each named by its letter. "n" is none of them.
+struct Kinds : tests::TemporaryFolder {
   Kinds() {
     write("f", "text");
     write("e", "");
@@ -25,60 +27,52 @@ class Kinds : public tests::TemporaryFolder {
   }
 };
 
-/// How many of the disks are one of these letters.
-std::size_t count(const std::string& disks, std::string_view letters) {
-  return static_cast<std::size_t>(std::count_if(
-      disks.begin(), disks.end(), [&](char disk) { return letters.find(disk) != letters.npos; }));
-}
-
-/// The number of findings whose sentence holds a part, and of those that should.
-void expect(const std::vector<checks::Finding>& found, std::string_view part, std::size_t number) {
-  const auto holds = [&](const checks::Finding& finding) {
-    return std::string_view(finding.text.format).find(part) != part.npos;
-  };
-  tests::check(static_cast<std::size_t>(std::count_if(found.begin(), found.end(), holds)) == number,
-               std::string(part));
-}
-
 }  // namespace
 
 /// The input: a letter for each disk, a line feed, the text of a preferences file.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const Kinds folder;
   const std::string input = tests::textOf(data, size);
-  std::string disks = input.substr(0, input.find('\n'));
-  std::erase_if(disks, [](char disk) { return std::string_view("fedlhcn").find(disk) > 6; });
   tests::Model model(input.substr(std::min(input.find('\n'), input.size())));
-  model.disks.clear();
-  for (const char disk : disks) {
-    model.disks.emplace_back(1, disk);
-  }
-
   checks::State state;
   state.homeDirectory = folder.path();
-  state.disks = model.disks;
-  std::size_t elsewhere = 0;
+  for (const char letter : input.substr(0, input.find('\n'))) {
+    if (kinds.find(letter) != kinds.npos) {
+      state.disks.emplace_back(1, letter);
+    }
+  }
+  model.disks = state.disks;
+  const document::Lines lines(model.text());
+  std::ptrdiff_t elsewhere = 0;
   for (const document::KeyRow& row : document::keyTable) {
     state.settings.at(indexOf(row.key)).value = model[row.key];
-    const auto lines = document::Lines(model.text());
-    const auto first = lines.firstContaining(row.text);
-    elsewhere += first == std::string(row.text) + model[row.key] ? 0 : 1;
+    const bool isFirst = lines.firstContaining(row.text) == std::string(row.text) + model[row.key];
+    elsewhere += isFirst ? 0 : 1;
   }
   const auto found = checks::findings(state, checks::gather(state));
 
-  expect(found, "in the list", disks.empty() ? 1 : 0);
-  expect(found, "one and the same", (count(disks, "flh") > 1) + (count(disks, "e") > 1));
-  expect(found, "disk image \"%1\" is missing", count(disks, "n") == 1);
-  expect(found, "disk images are missing", count(disks, "n") > 1);
-  expect(found, "disk image \"%1\" is a folder", count(disks, "d") == 1);
-  expect(found, "disk images are folders", count(disks, "d") > 1);
-  expect(found, "disk image \"%1\" is empty", count(disks, "e") == 1);
-  expect(found, "disk images are empty", count(disks, "e") > 1);
-  expect(found, "disk image \"%1\" cannot be reached", count(disks, "c") == 1);
-  expect(found, "disk images cannot be reached", count(disks, "c") > 1);
-  expect(found, "read from another line", elsewhere);
-  for (std::size_t index = 1; index < found.size(); ++index) {
-    tests::check(found[index - 1].level <= found[index].level, "the gravest first");
+  const auto expect = [&](std::ptrdiff_t number, std::string_view part) {
+    const auto holds = [&](const checks::Finding& finding) {
+      return std::string_view(finding.text.format).find(part) != part.npos;
+    };
+    tests::check(std::count_if(found.begin(), found.end(), holds) == number, std::string(part));
+  };
+  const auto count = [&](const char* letter) {
+    return std::count(state.disks.begin(), state.disks.end(), letter);
+  };
+  expect(state.disks.empty() ? 1 : 0, "in the list");
+  expect((count("f") + count("l") + count("h") > 1) + (count("e") > 1), "one and the same");
+  const std::array<const char*, 3> problems[] = {
+      {"n", "disk image \"%1\" is missing", "disk images are missing"},
+      {"d", "disk image \"%1\" is a folder", "disk images are folders"},
+      {"e", "disk image \"%1\" is empty", "disk images are empty"},
+      {"c", "disk image \"%1\" cannot be reached", "disk images cannot be reached"}};
+  for (const auto& [letter, ofOne, ofSeveral] : problems) {
+    expect(count(letter) == 1, ofOne);
+    expect(count(letter) > 1, ofSeveral);
   }
+  expect(elsewhere, "read from another line");
+  const auto isGraver = [](const auto& one, const auto& other) { return one.level < other.level; };
+  tests::check(std::is_sorted(found.begin(), found.end(), isGraver), "the gravest first");
   return 0;
 }

@@ -4,10 +4,9 @@
 #include <future>
 
 #include "tests/desktop/window_fixture.h"
+#include "tests/support/data.h"
 
 namespace {
-
-constexpr auto control = Qt::ControlModifier;
 
 /// What the window tells before starting, over a home in which nothing stops a start.
 class Checks : public tests::WindowTest {
@@ -43,48 +42,26 @@ class Checks : public tests::WindowTest {
 };
 
 TEST_F(Checks, EachFindingLeadsToItsControl) {
-  struct Case {
+  for (const tests::Case& each :
+       tests::cases("findings-shown.txt", {"line", "tells", "tab", "control", "row"})) {
+    SCOPED_TRACE(each.written);
     std::string preferences;
-    std::string line;
-    QString tab;  // with a mark
-    const char* control;
-    int row = -1;  // of the list, which is selected
-  };
-  const Case cases[] = {
-      {.preferences = "disk a.dsk\n",
-       .line = "Problem: No ROM file is chosen.",
-       .tab = "Machine",
-       .control = "romFile"},
-      {.preferences = "rom mac.rom\ncpu 9\n",
-       .line = "Warning: There is no disk image in the list. And 1 more.",
-       .tab = "Volumes",
-       .control = "tableView"},
-      {.preferences = "rom mac.rom\ndisk a.dsk\ndisk gone.dsk\n",
-       .line = "Warning: The disk image \"gone.dsk\" is missing.",
-       .tab = "Volumes",
-       .control = "tableView",
-       .row = 1},
-      {.preferences = "rom mac.rom\ndisk a.dsk\nmousewheelmode 7\n",
-       .line =
-           "Note: \"mousewheelmode 7\" in the file is nothing that this program knows. It shows "
-           "\"Page up / page down\", and a save writes \"mousewheelmode 0\".",
-       .tab = "Sound & Input",
-       .control = "mouseWheel"},
-  };
-  for (const Case& checked : cases) {
-    SCOPED_TRACE(checked.preferences);
-    open(checked.preferences);
-    ASSERT_TRUE(tells(checked.line)) << line();
-    QWidget* const widget = find(checked.control);
-    const std::string finding = checked.line.substr(0, checked.line.find(" And "));
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return widget->accessibleDescription().contains(QString::fromStdString(finding)); }));
+    for (const std::string& line : each.all("line")) {
+      preferences += line + "\n";
+    }
+    open(preferences);
+    ASSERT_TRUE(tells(each["tells"])) << line();
+    QWidget* const widget = find(each["control"].c_str());
+    const QString finding =
+        QString::fromStdString(each["tells"]).section(QLatin1String(" And "), 0, 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return widget->accessibleDescription().contains(finding); }));
     goToFirst();
     EXPECT_TRUE(QTest::qWaitFor([&] { return widget->hasFocus(); }));
     EXPECT_TRUE(find("checksFrame")->isVisible());
-    EXPECT_EQ(find<QAbstractItemView>("tableView")->currentIndex().row(), checked.row);
-    EXPECT_EQ(tabs()->tabBar()->accessibleTabName(tabs()->currentIndex()),
-              checked.tab + QLatin1String(", with something to look at"));
+    const int row = find<QAbstractItemView>("tableView")->currentIndex().row();
+    EXPECT_EQ(row >= 0 ? std::to_string(row + 1) : "", each["row"]);
+    EXPECT_EQ(tabs()->tabBar()->accessibleTabName(tabs()->currentIndex()).toStdString(),
+              each["tab"] + ", with something to look at");
   }
 }
 
@@ -119,7 +96,7 @@ TEST_F(Checks, AFileThatCannotBeReadIsToldUntilItIsReplaced) {
   open("rom \xff\n");
   const auto isTold = [&] { return line().find("file could not be read") != std::string::npos; };
   EXPECT_TRUE(QTest::qWaitFor(isTold)) << line();
-  key(Qt::Key_S, control);
+  press("Ctrl+S");
   EXPECT_TRUE(QTest::qWaitFor([&] { return !isTold(); })) << line();
 }
 
@@ -141,7 +118,7 @@ TEST_F(Checks, AFactThatTakesTenSecondsStopsNothing) {
   typeInto("romFile", "mac.rom");
   key(Qt::Key_Return);
   EXPECT_TRUE(tells("Ready to start.")) << "facts for another state overtake it";
-  key(Qt::Key_S, control);
+  press("Ctrl+S");
   EXPECT_NE(file().find("\nrom mac.rom\n"), std::string::npos);
   click("startQuil");
   EXPECT_NE(fake.said().find("<launch "), std::string::npos);

@@ -8,14 +8,12 @@
 #include <QWheelEvent>
 
 #include "tests/desktop/window_fixture.h"
+#include "tests/support/data.h"
 #include "tests/support/model.h"
 
 namespace {
 
 using document::Key;
-
-constexpr auto control = Qt::ControlModifier;
-constexpr auto alt = Qt::AltModifier;
 
 class Editing : public tests::WindowTest {
  protected:
@@ -32,24 +30,19 @@ class Editing : public tests::WindowTest {
 };
 
 TEST_F(Editing, WhatIsBeingTypedIsPartOfTheSaveHoweverItIsAskedFor) {
-  const auto press = [](int code, Qt::KeyboardModifiers modifiers = {}) {
-    return [=] { key(code, modifiers); };
-  };
-  const auto clickSave = [this] { click("savePrefs"); };
   struct Way {
-    const char* name;
-    std::vector<std::function<void()>> steps;
+    const char* clicked = nullptr;
+    std::vector<const char*> keys = {};
   };
-  const std::vector<Way> ways = {
-      {"Return", {press(Qt::Key_Return), clickSave}},
-      {"Tab", {press(Qt::Key_Tab), clickSave}},
-      {"click elsewhere", {[&] { click("modelID"); }, press(Qt::Key_Escape), clickSave}},
-      {"mouse", {clickSave}},
-      {"Ctrl+S", {press(Qt::Key_S, control)}},
-      {"Alt+S", {press(Qt::Key_S, alt)}},
-      {"Ctrl+Return", {press(Qt::Key_Return, control)}},
-      {"Alt+T", {press(Qt::Key_T, alt)}},
-      {"menu", {press(Qt::Key_F, alt), press(Qt::Key_S)}}};
+  const Way ways[] = {{.keys = {"Return", "Ctrl+S"}},
+                      {.keys = {"Tab", "Ctrl+S"}},
+                      {.clicked = "modelID", .keys = {"Escape", "Ctrl+S"}},
+                      {.clicked = "savePrefs"},
+                      {.keys = {"Ctrl+S"}},
+                      {.keys = {"Alt+S"}},
+                      {.keys = {"Ctrl+Return"}},
+                      {.keys = {"Alt+T"}},
+                      {.keys = {"Alt+F", "S"}}};
   const tests::Model wanted("ramsize 38797312\nrom /new rom\nscreen win/123/600\n");
   bool byTool = false;  // every other time an accessibility tool sets the first texts
   const auto write = [&](const char* name, const char* text) {
@@ -57,14 +50,14 @@ TEST_F(Editing, WhatIsBeingTypedIsPartOfTheSaveHoweverItIsAskedFor) {
     QWidget* const field = box != nullptr ? box->lineEdit() : find(name);
     if (byTool) {
       field->setFocus();
-      QAccessible::queryAccessibleInterface(field)->setText(QAccessible::Value,
-                                                            QLatin1String(text));
+      auto* const face = QAccessible::queryAccessibleInterface(field);
+      face->setText(QAccessible::Value, QLatin1String(text));
     } else {
       typeInto(name, text);
     }
   };
-  for (const auto& [name, steps] : ways) {
-    SCOPED_TRACE(name);
+  for (const auto& [clicked, keys] : ways) {
+    SCOPED_TRACE(clicked != nullptr ? clicked : keys.front());
     byTool = !byTool;
     open("ramsize 67108864\nrom /old\nscreen win/800/600\n");
     showTab("Display");
@@ -72,14 +65,11 @@ TEST_F(Editing, WhatIsBeingTypedIsPartOfTheSaveHoweverItIsAskedFor) {
     showTab("Machine");
     write("romFile", "/new rom");
     typeInto("ramSizeMB", "37");
-    const QWidget* const focus = QApplication::focusWidget();
-    for (const auto& step : steps) {
-      step();
+    if (clicked != nullptr) {
+      click(clicked);
     }
+    std::for_each(keys.begin(), keys.end(), press);
     EXPECT_TRUE(QTest::qWaitFor([&] { return file() == wanted.text(); })) << file();
-    QTest::qWait(0);
-    EXPECT_TRUE(QApplication::focusWidget() == focus ||
-                QApplication::focusWidget() == find("savePrefs"));
   }
 }
 
@@ -90,45 +80,26 @@ TEST_F(Editing, APastedTextIsOneLine) {
   for (const char* const name : {"romFile", "etherPort"}) {
     showTabOf(find(name));
     typeInto(name, "");
-    key(Qt::Key_V, control);
-    key(Qt::Key_S, control);
+    press("Ctrl+V");
+    press("Ctrl+S");
   }
   EXPECT_EQ(file(),
             tests::Model("ramsize 67108864\nrom /new ramsize 1\nether /new ramsize 1\n").text());
 }
 
 TEST_F(Editing, OnlyAnAcceptedTextGetsIntoTheRamBox) {
-  struct Row {
-    const char* typed;
-    std::vector<Qt::Key> keys;
-    const char* shown;
-    const char* why = "";
-  };
-  const std::vector<Row> rows = {
-      {"1", {Qt::Key_Return}, "1", "although 1024 is offered"},
-      {"1", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Escape, Qt::Key_Tab}, "1", "they were looked at"},
-      {"1", {Qt::Key_Escape, Qt::Key_Return}, "1"},
-      {"1", {Qt::Key_Down, Qt::Key_Tab}, "1"},
-      {"1", {Qt::Key_Down, Qt::Key_Return}, "1024", "it was picked"},
-      {"512", {Qt::Key_Tab}, "512"},
-      {"0", {Qt::Key_Return}, "64"},
-      {"64 MB", {Qt::Key_Return}, "64"},
-      {"1.5", {Qt::Key_Tab}, "64"},
-      {"", {Qt::Key_Return}, "64"},
-      {"8796093022208", {Qt::Key_Return}, "64", "too many bytes to count"}};
-  for (const auto& [typed, keys, shown, why] : rows) {
-    SCOPED_TRACE(std::string(typed) + " " + why);
+  for (const tests::Case& each : tests::cases("ram-sizes.txt", {"typed", "key", "shown"})) {
+    SCOPED_TRACE(each.written);
     open("ramsize 67108864\n");
     showTab("Machine");
-    typeInto("ramSizeMB", typed);
+    typeInto("ramSizeMB", each["typed"].c_str());
     QTest::qWait(0);
-    for (const Qt::Key each : keys) {
-      key(each);
-    }
+    const std::vector<std::string> keys = each.all("key");
+    std::for_each(keys.begin(), keys.end(), press);
     const auto* const box = find<QComboBox>("ramSizeMB");
-    EXPECT_EQ(box->currentText(), QLatin1String(shown));
-    EXPECT_EQ(box->count(), std::string(shown) == typed ? 11 : 10) << "what was typed is listed";
-    EXPECT_EQ(value(Key::ramsize), std::to_string(std::stoll(shown) << 20));
+    EXPECT_EQ(box->currentText().toStdString(), each["shown"]);
+    EXPECT_EQ(box->count(), each["shown"] == each["typed"] ? 11 : 10) << "what was typed is listed";
+    EXPECT_EQ(value(Key::ramsize), std::to_string(std::stoll(each["shown"]) << 20));
   }
 }
 
@@ -177,7 +148,7 @@ TEST_F(Editing, NothingChangesOnTheWayPast) {
     }
   }
   EXPECT_TRUE(scrolled);
-  key(Qt::Key_S, control);
+  press("Ctrl+S");
   EXPECT_EQ(file(), tests::Model(odd).text());
 }
 

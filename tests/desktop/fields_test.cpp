@@ -3,6 +3,7 @@
 #include <QUrl>
 
 #include "tests/desktop/window_fixture.h"
+#include "tests/support/data.h"
 
 namespace {
 
@@ -11,29 +12,22 @@ using document::Key;
 class Fields : public tests::WindowTest {};
 
 TEST_F(Fields, TakeTheFileThatIsDropped) {
-  struct Case {
-    QList<QUrl> dropped;
-    const char* shown;
-  };
-  const std::vector<Case> cases = {
-      {{QUrl::fromLocalFile(QLatin1String("/a b/%20.rom"))}, "/a b/%20.rom"},
-      {{QUrl::fromLocalFile(QLatin1String("/a")), QUrl::fromLocalFile(QLatin1String("/b"))},
-       "/old"},
-      {{QUrl(QLatin1String("https://host/a"))}, "/old"},
-      {{QUrl(QLatin1String("file://host/a"))}, "/old"},
-      {{QUrl::fromLocalFile(QLatin1String("/a\nramsize 1"))}, "/old"}};
-  for (const Case& each : cases) {
+  for (const tests::Case& each : tests::cases("dropped.txt", {"url", "shown"})) {
     open("rom /old\n");
     window->completePages();
+    QList<QUrl> urls;
+    for (const std::string& url : each.all("url")) {
+      urls.append(QUrl(QString::fromStdString(url)));
+    }
     QMimeData data;
-    data.setUrls(each.dropped);
+    data.setUrls(urls);
     data.setText(QLatin1String("what file managers add"));
-    const auto send = [&](auto event) { QApplication::sendEvent(find("romFile"), &event); };
-    const QPoint place(5, 5);
-    send(QDragEnterEvent(place, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
-    send(QDropEvent(place, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier));
-    EXPECT_EQ(find<QLineEdit>("romFile")->text().toStdString(), each.shown);
-    EXPECT_EQ(value(Key::rom), each.shown);
+    QDragEnterEvent enter({5, 5}, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop({5, 5}, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(find("romFile"), &enter);
+    QApplication::sendEvent(find("romFile"), &drop);
+    EXPECT_EQ(find<QLineEdit>("romFile")->text().toStdString(), each["shown"]);
+    EXPECT_EQ(value(Key::rom), each["shown"]);
   }
 }
 
@@ -45,14 +39,13 @@ TEST_F(Fields, AnArrowLeadsIntoTheRangeFirst) {
     const char* second;
   };
   for (const Case& each :
-       {Case{"0", Qt::Key_Up, "1", "2"}, Case{"0", Qt::Key_Down, "1", "1"},
-        Case{"70000", Qt::Key_Up, "65535", "65535"}, Case{"70000", Qt::Key_Down, "65535", "65534"},
-        Case{"6066", Qt::Key_Up, "6067", "6068"}}) {
+       {Case{.inFile = "0", .arrow = Qt::Key_Up, .first = "1", .second = "2"},
+        Case{.inFile = "0", .arrow = Qt::Key_Down, .first = "1", .second = "1"},
+        Case{.inFile = "70000", .arrow = Qt::Key_Up, .first = "65535", .second = "65535"},
+        Case{.inFile = "70000", .arrow = Qt::Key_Down, .first = "65535", .second = "65534"}}) {
     SCOPED_TRACE(each.inFile);
     open(std::string("udpport ") + each.inFile + "\n");
-    window->completePages();
     showTab("Network");
-    EXPECT_EQ(value(Key::udpport), each.inFile);
     find("portUDP")->setFocus();
     key(each.arrow);
     EXPECT_EQ(value(Key::udpport), each.first);
@@ -65,70 +58,49 @@ TEST_F(Fields, KeepTextsOfAnyLength) {
   const std::string text(40000, 'x');
   open("rom " + text + "\nether " + text + "\n");
   window->completePages();
-  for (const auto& [tab, name, key] : {std::tuple("Machine", "romFile", Key::rom),
-                                       std::tuple("Network", "etherPort", Key::ether)}) {
-    showTab(tab);
+  for (const auto& [name, key] :
+       {std::pair("romFile", Key::rom), std::pair("etherPort", Key::ether)}) {
+    showTabOf(find(name));
     find(name)->setFocus();
-    WindowTest::key(Qt::Key_End);
+    press("End");
     type("y");
-    WindowTest::key(Qt::Key_Tab);
+    press("Tab");
     EXPECT_EQ(value(key), text + "y");
   }
 }
 
 TEST_F(Fields, EndBeforeTheirWindowDoes) {
-  struct Field {
-    const char* tab;
-    const char* name;
-    const char* opener;  // of the window that has it; "" for the settings window
-  };
-  const std::vector<Field> fields = {{"Machine", "romFile", ""},
-                                     {"Machine", "ramSizeMB", ""},
-                                     {"Display", "screenWidth", ""},
-                                     {"Display", "screenHeight", ""},
-                                     {"Sound & Input", "audioOut", ""},
-                                     {"Sound & Input", "audioMix", ""},
-                                     {"Network", "modemPort", ""},
-                                     {"Network", "printerPort", ""},
-                                     {"Network", "etherPort", ""},
-                                     {"JIT", "jitCache", ""},
-                                     {"Volumes", "unixRootPath", ""},
-                                     {"Volumes", "filename_field", ""},
-                                     {"Volumes", "findSetting", ""},
-                                     {"Volumes", "Quillon", "openPreferences"},
-                                     {"Volumes", "createName", "bitCreate"}};
-  for (const Field& field : fields) {
-    for (const bool closes : {false, true}) {
-      SCOPED_TRACE(field.name);
-      open();
-      window->completePages();
-      showTab(field.tab);
-      app::sharedVar::pathToQuil = "/Quillon.app";
-      app::sharedVar::startFlag = app::startCustom;
-      if (*field.opener != '\0') {
-        click(field.opener);
-        QTest::qWait(0);
-      }
-      typeInto(field.name, "300");
-      QWidget* const widget = find(field.name);
-      auto* const box = qobject_cast<QComboBox*>(widget);
-      if (box != nullptr && closes) {
-        box->showPopup();
-      } else if (closes) {
-        window->close();
-      }
-      fake.said();
-      // Some platforms take the focus from a widget only when it is being deleted.
-      QWidget* const first = window->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-      QObject::connect(first, &QObject::destroyed, [widget = QPointer<QWidget>(widget)] {
-        QFocusEvent leaves(QEvent::FocusOut, Qt::OtherFocusReason);
-        if (widget != nullptr) {
-          QApplication::sendEvent(widget, &leaves);
-        }
-      });
-      window.reset();
-      EXPECT_EQ(fake.said(), "");
+  open();
+  window->completePages();
+  const auto fields = window->findChildren<QLineEdit*>();
+  for (qsizetype number = 0; number < fields.size() + 2; ++number) {
+    open();
+    window->completePages();
+    app::sharedVar::startFlag = app::startCustom;
+    if (number >= fields.size()) {
+      click(number == fields.size() ? "openPreferences" : "bitCreate");
+      QTest::qWait(0);
     }
+    QWidget* const widget = number < fields.size() ? window->findChildren<QLineEdit*>().at(number)
+                            : number == fields.size() ? find("Quillon")
+                                                      : find("createName");
+    showTabOf(widget);
+    widget->setFocus();
+    type("300");
+    if (auto* const box = qobject_cast<QComboBox*>(widget->parentWidget())) {
+      box->showPopup();
+    }
+    fake.said();
+    // Some platforms take the focus from a widget only when it is being deleted.
+    QWidget* const first = window->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    QObject::connect(first, &QObject::destroyed, [widget = QPointer<QWidget>(widget)] {
+      QFocusEvent leaves(QEvent::FocusOut, Qt::OtherFocusReason);
+      if (widget != nullptr) {
+        QApplication::sendEvent(widget, &leaves);
+      }
+    });
+    window.reset();
+    EXPECT_EQ(fake.said(), "") << "field " << number;
   }
 }
 

@@ -16,12 +16,12 @@ namespace {
 
 // One thing that happens: "close", a signal's number, a button's name or a menu entry's text.
 void perform(QWidget* window, const QString& step) {
-  for (QAction* const entry : window->findChildren<QAction*>()) {
-    if (entry->text() == step) {
-      return entry->trigger();
-    }
-  }
-  if (auto* const button = window->findChild<QAbstractButton*>(step)) {
+  const auto entries = window->findChildren<QAction*>();
+  const auto entry = std::find_if(entries.begin(), entries.end(),
+                                  [&](const QAction* each) { return each->text() == step; });
+  if (entry != entries.end()) {
+    (*entry)->trigger();
+  } else if (auto* const button = window->findChild<QAbstractButton*>(step)) {
     button->click();
   } else if (step == QLatin1String("close")) {
     window->close();

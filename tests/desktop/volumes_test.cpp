@@ -5,12 +5,11 @@
 #include <QTimer>
 
 #include "tests/desktop/window_fixture.h"
+#include "tests/support/data.h"
 
 namespace {
 
-constexpr auto alt = Qt::AltModifier;
 constexpr auto control = Qt::ControlModifier;
-constexpr auto shift = Qt::ShiftModifier;
 
 class Volumes : public tests::WindowTest {
  protected:
@@ -49,72 +48,47 @@ TEST_F(Volumes, ShowsAPictureAPathASizeAndAKind) {
   const std::string image = fake.home.write("a <b>.dsk", std::string(1'474'560, '\0'));
   open("disk " + image + "\ndisk here.dsk\n");
   table = find<QTableView>("tableView");
-  const auto text = [this](int row, int column) {
-    return cell(row, column).data().toString().toStdString();
-  };
-  EXPECT_EQ(text(0, 0), image);
-  EXPECT_EQ(text(0, 1), "1.5 MB");
-  EXPECT_EQ(text(0, 2), "Disk Image");
-  EXPECT_EQ(text(1, 2), "No Path!");
+  const char* const titles[] = {"Disk image", "Size", "Kind"};
+  const char* const texts[] = {image.c_str(), "1.5 MB", "Disk Image"};
+  for (int column = 0; column < table->model()->columnCount(); ++column) {
+    EXPECT_EQ(cell(0, column).data().toString().toStdString(), texts[column]);
+    const QVariant title = table->model()->headerData(column, Qt::Horizontal);
+    EXPECT_EQ(title.toString(), QLatin1String(titles[column]));
+    const QVariant side = cell(0, column).data(Qt::TextAlignmentRole);
+    EXPECT_EQ(side, table->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole));
+    EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, column == 1) << "numbers end at the right";
+  }
+  EXPECT_EQ(cell(1, 2).data().toString(), QLatin1String("No Path!"));
   EXPECT_FALSE(cell(0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).isNull());
   EXPECT_FALSE(cell(0, 1).data(Qt::DecorationRole).isValid());
-  const QStringList titles = {"Disk image", "Size", "Kind"};
-  for (int column = 0; column < titles.size(); ++column) {
-    const auto title = [&](int role) {
-      return table->model()->headerData(column, Qt::Horizontal, role);
-    };
-    EXPECT_EQ(title(Qt::DisplayRole).toString(), titles.at(column));
-    for (const QVariant& side :
-         {title(Qt::TextAlignmentRole), cell(0, column).data(Qt::TextAlignmentRole)}) {
-      EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, column == 1) << "numbers end at the right";
-    }
-  }
   EXPECT_GT(table->columnWidth(0), table->columnWidth(1) + table->columnWidth(2));
+  EXPECT_FALSE(table->model()->data(QModelIndex(), Qt::DisplayRole).isValid());
 }
 
 TEST_F(Volumes, KeysAndClicks) {
   openDisks("ABCD");
   const auto location = [](const char* path) { return platform::Location::fromPath(path); };
   fake.panels.answers = {{location("/E"), location("/F")}, {location("/E")}};
-  const auto press = [](int code, Qt::KeyboardModifiers modifiers) {
-    return [=] { key(code, modifiers); };
-  };
-  const auto clickAndRemove = [&](int row, Qt::KeyboardModifiers modifiers) {
-    return [=, this] {
-      clickRow(row, modifiers);
-      click("removeVol");
-    };
-  };
-  struct Row {
-    std::function<void()> act;
-    const char* order;
-    const char* why = "";
-  };
-  const std::vector<Row> rows = {
-      {[&] { clickRow(1); }, "ABCD"},
-      {press(Qt::Key_Down, alt), "ACBD"},
-      {press(Qt::Key_Down, alt), "ACDB"},
-      {press(Qt::Key_Down, alt), "ACDB", "it is the last one"},
-      {press(Qt::Key_Up, shift), "ACDB"},
-      {press(Qt::Key_Up, alt), "ADBC", "both go"},
-      {press(Qt::Key_Delete, {}), "ABC", "D was selected last"},
-      {press(Qt::Key_Delete, {}), "AC", "the next one is selected"},
-      {press(Qt::Key_Insert, {}), "ACEF"},
-      {press(Qt::Key_O, control), "ACEFE"},
-      {clickAndRemove(4, {}), "ACFE", "the first of two equal ones goes"},
-      {[&] { clickRow(3); }, "ACFE"},
-      {[&] { clickRow(0, control); }, "ACFE"},
-      {[&] { clickRow(2, control); }, "ACFE"},
-      {clickAndRemove(2, control), "CFE", "the one before, as that one is no longer selected"},
-      {[&] { clickRow(2); }, "CFE"},
-      {clickAndRemove(1, shift), "CE"},
-      {[&] { table->clearSelection(); }, "CE"},
-      {[&] { click("removeVol"); }, "CE", "nothing is selected"}};
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    rows[row].act();
-    EXPECT_EQ(order(), rows[row].order) << "row " << row << ": " << rows[row].why;
+  for (const tests::Case& each :
+       tests::cases("volume-keys.txt", {"click row", "held", "press", "button", "list"})) {
+    if (each.has("click row")) {
+      const Qt::KeyboardModifiers held = each["held"] == "Ctrl"    ? control
+                                         : each["held"] == "Shift" ? Qt::ShiftModifier
+                                                                   : Qt::NoModifier;
+      clickRow(std::stoi(each["click row"]) - 1, held);
+    }
+    if (each.has("press")) {
+      press(each["press"]);
+    }
+    if (each.has("button")) {
+      click(each["button"].c_str());
+    }
+    EXPECT_EQ(order(), each["list"]) << each.written;
   }
-  key(Qt::Key_S, control);
+  table->clearSelection();
+  click("removeVol");
+  EXPECT_EQ(order(), "CE") << "nothing is selected";
+  press("Ctrl+S");
   EXPECT_TRUE(file().starts_with("disk /C\ndisk /E\nextfs "));
 }
 
@@ -134,20 +108,19 @@ TEST_F(Volumes, RowsAreDraggedBetweenRows) {
   if (QGuiApplication::platformName() != QLatin1String("minimal")) {
     GTEST_SKIP() << "the platform without a screen ends drags at once";
   }
-  enum Place { over, on, below };
+  enum class Place { over, on, below };
   struct Row {
     std::vector<int> selected;  // in the order of clicks; the last one is dragged
     Place place;
     int target;
-    const char* order;
+    const char* wanted;
   };
-  for (const auto& [selected, place, target, wanted] : std::initializer_list<Row>{
-           {.selected = {0}, .place = over, .target = 3, .order = "BCADE"},
-           {.selected = {2, 0}, .place = over, .target = 4, .order = "BDACE"},
-           {.selected = {1, 4, 2}, .place = over, .target = 0, .order = "BCEAD"},
-           {.selected = {0}, .place = below, .target = 4, .order = "BCDEA"},
-           {.selected = {3, 4}, .place = over, .target = 3, .order = "ABCDE"},
-           {.selected = {0}, .place = on, .target = 3, .order = "ABCDE"}}) {
+  for (const auto& [selected, place, target, wanted] :
+       {Row{.selected = {0}, .place = Place::over, .target = 3, .wanted = "BCADE"},
+        Row{.selected = {1, 4, 2}, .place = Place::over, .target = 0, .wanted = "BCEAD"},
+        Row{.selected = {0}, .place = Place::below, .target = 4, .wanted = "BCDEA"},
+        Row{.selected = {3, 4}, .place = Place::over, .target = 3, .wanted = "ABCDE"},
+        Row{.selected = {0}, .place = Place::on, .target = 3, .wanted = "ABCDE"}}) {
     SCOPED_TRACE(wanted);
     openDisks("ABCDE");
     window->resize(800, 800);  // all rows are seen, whatever the font
@@ -159,10 +132,10 @@ TEST_F(Volumes, RowsAreDraggedBetweenRows) {
     const auto at = [&](QPoint point) { return table->viewport()->mapTo(&*window, point); };
     const QPoint start = at(table->visualRect(cell(selected.back())).center());
     const QRect rect = table->visualRect(cell(target));
-    const int edge = place == below ? rect.bottom() : rect.top();
-    const QPoint end = at({rect.center().x(), place == on      ? rect.center().y()
-                                              : place == below ? edge - 1
-                                                               : edge + 1});
+    const int edge = place == Place::below ? rect.bottom() : rect.top();
+    const QPoint end = at({rect.center().x(), place == Place::on      ? rect.center().y()
+                                              : place == Place::below ? edge - 1
+                                                                      : edge + 1});
     bool line = false;
     QTest::mousePress(screen, Qt::LeftButton, {}, start);
     QTest::mouseMove(screen, start + QPoint(4, 0));
@@ -178,7 +151,7 @@ TEST_F(Volumes, RowsAreDraggedBetweenRows) {
     QTest::mouseMove(screen, start + QPoint(40, 0));  // returns when the drag has ended
     QTest::qWait(20);
     EXPECT_EQ(order(), wanted);
-    EXPECT_EQ(line, place != on) << "a line shows where the rows would go";
+    EXPECT_EQ(line, place != Place::on) << "a line shows where the rows would go";
     EXPECT_EQ(table->selectionModel()->selectedRows().size(), qsizetype(selected.size()));
   }
 }

@@ -81,6 +81,12 @@ class WindowTest : public testing::Test {
   static void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(front(), static_cast<Qt::Key>(code), modifiers);
   }
+  /// Presses a key as it is written in menus: "Ctrl+S".
+  static void press(const std::string& keys) {
+    const QKeyCombination pressed = QKeySequence(QString::fromStdString(keys))[0];
+    ASSERT_NE(pressed.key(), Qt::Key_unknown) << keys;
+    key(pressed.key(), pressed.keyboardModifiers());
+  }
   static void type(const char* text) {
     for (; *text != '\0'; ++text) {
       QTest::keyClick(front(), *text);

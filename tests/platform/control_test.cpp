@@ -50,16 +50,4 @@ TEST(Subscription, EndsWithEitherSide) {
   center.reset();
 }
 
-TEST(Subscription, ANewViewTakesOverFromTheFormerOne) {
-  Button button("b");
-  int formerShown = 0;
-  int shown = 0;
-  std::optional former = button.attach([&] { ++formerShown; });
-  const Subscription view = button.attach([&] { ++shown; });
-  former.reset();
-  button.setOn(true);
-  EXPECT_EQ(formerShown, 1);
-  EXPECT_EQ(shown, 2);
-}
-
 }  // namespace platform

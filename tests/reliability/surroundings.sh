@@ -56,9 +56,7 @@ else
 fi
 
 export HOME="$work/a plain home"
-check "no PATH" starts "$HOME" env -u PATH
 check "an empty environment but for HOME" starts "$HOME" env -i HOME="$HOME"
-check "the window without PATH" opens env -u PATH
 check "no home folder: told by the status" \
   bash -c "! HOME='$work/none' timeout 20 '$program' --start >/dev/null 2>&1"
 
@@ -84,9 +82,7 @@ check "the emulator gets the environment as it is" cmp "$work/found" \
 # Each image writes all lists as they are by then, which is more than a disk holds: the lines end
 # where there are too many of them.
 seq -f 'disk /home/me/disk image %.0f.dsk' 200000 >"$HOME/.quillon_prefs"
-check "200,000 images" bash -c "timeout 60 '$program' --start >/dev/null"
+check "200,000 images" bash -c "timeout 120 '$program' --start >'$work/lines'"
 check "all of them are still there" lines $((200000 + keys))
-check "200,000 images, the lines going to a file" bash -c "
-  timeout 120 '$program' --start >'$work/lines' &&
-  [ \$(stat -c %s '$work/lines') -le $((1 << 30)) ]"
+check "the lines end" [ "$(stat -c %s "$work/lines")" -le $((1 << 30)) ]
 exit $failed
