@@ -99,7 +99,8 @@ void prefsViewController::radioButtonChanged() {
     Quillon.setStringValue({});
     sharedVar::startState = true;
     sharedVar::startFlag = startLocal;
-    // The folder alone could not be launched: Start would do nothing until the next run.
+    // Not pathToQuilRoot alone: Start would try to launch that folder until the next start-up, when
+    // applyLocalRule() adds the name.
     sharedVar::pathToQuil = localEmulator();
     Quillon.setStringValue(sharedVar::pathToQuil);
     host_.output.print("PathToQuil? ", sharedVar::pathToQuil);

@@ -43,7 +43,8 @@ class prefsViewController {
   void finish();
 
   platform::Host host_;
-  // A panel may outlive this object: its answer looks here first.
+  // Panels::beginSheet() may call back after this object is gone, when the window was closed over
+  // the open panel. The callback holds a weak pointer to this and does nothing once it has expired.
   std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
 };
 

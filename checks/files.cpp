@@ -25,7 +25,7 @@ bool isRomSize(std::int64_t bytes) {
 }  // namespace
 
 void checkQuillon(const State& state, const Facts& facts, Collector& found) {
-  // Beside this program it is found with two separators in a row.
+  // app::localEmulator() puts a second "/" before "Quillon.app", which a person need not see.
   const std::string place = std::filesystem::path(state.pathToQuil).lexically_normal().string();
   const auto stop = [&](const char* format, auto... arguments) {
     found.add(Level::stops, Place::quillon, format, arguments...);

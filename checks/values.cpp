@@ -9,7 +9,7 @@ namespace {
 
 using platform::translatable;
 
-// A line can be as long as a file.
+// A finding quotes the beginning of a line only: a line of the file may have megabytes.
 std::string shortened(std::string_view text) {
   constexpr std::size_t most = 80;  // bytes
   if (text.size() <= most) {

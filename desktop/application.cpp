@@ -8,7 +8,8 @@
 
 namespace desktop {
 
-// QCoreApplication::quit would first close the windows, and closing the settings window calls this.
+// Not QCoreApplication::quit(): it closes the windows first, and closing the settings window calls
+// terminate() again.
 void Application::terminate() { QCoreApplication::exit(0); }
 
 void Application::exitNow() { ::_exit(0); }
@@ -21,8 +22,8 @@ void Application::makeFirstResponder(platform::TextField& field) {
   }
   const QPointer<QWidget> before = QApplication::focusWidget();
   widget->setFocus(Qt::OtherFocusReason);
-  // A save disables the field at once, which would leave the focus nowhere: it goes back to where
-  // the person was typing.
+  // ViewController::save() disables the field right after this call. Qt then gives the focus to
+  // some other widget: it is put back to where the person was typing.
   QMetaObject::invokeMethod(
       widget,
       [widget, before] {

@@ -13,7 +13,7 @@ ChangeMarks::ChangeMarks(const editor::ViewController& controller, const Marked&
 void ChangeMarks::update() {
   const auto changed = controller_.saved.changedKeys();
   for (const SettingWidget& place : marked_.settings) {
-    // Some controls show more than one key.
+    // The processor shows cpu and fpu: a change of either marks its control.
     const auto& control = document::rowOf(place.setting->key()).control;
     const bool isChanged = std::any_of(changed.begin(), changed.end(), [&](document::Key key) {
       return document::rowOf(key).control == control;

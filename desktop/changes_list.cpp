@@ -84,7 +84,7 @@ std::vector<ChangesList::Row> ChangesList::rows() const {
   return rows;
 }
 
-// What is still being typed would come back with its own commit.
+// Ends the edit first: a half-typed text would otherwise be committed later and undo the action.
 void ChangesList::putBack(const std::function<void()>& action) {
   edits_.endEditing();
   action();
@@ -100,7 +100,7 @@ void ChangesList::refresh() {
   if (rows.empty()) {
     close();
   } else if (texts != shown_) {
-    // Deleted later: this may run from the click of one of the buttons in there.
+    // deleteLater() since refresh() may run inside clicked() of a button of the former table.
     if (QWidget* const former = area_->takeWidget()) {
       former->hide();
       former->deleteLater();

@@ -21,7 +21,8 @@ ChecksList::ChecksList(std::function<void(const checks::Finding&)> go, QWidget* 
   connect(list_, &QListWidget::itemClicked, list_, &QListWidget::itemActivated);
   connect(list_, &QListWidget::itemActivated, this, [this, go = std::move(go)] {
     const auto row = static_cast<std::size_t>(list_->currentRow());
-    // Where one click activates, a click comes twice.
+    // Styles with SH_ItemView_ActivateItemOnSingleClick emit itemActivated for a click themselves:
+    // it then comes a second time, from itemClicked, when the list is closed already.
     if (isVisible() && row < findings_.size()) {
       const checks::Finding finding = findings_[row];
       close();

@@ -11,7 +11,7 @@
 namespace desktop {
 namespace {
 
-// Each may hang on a dead network mount for good.
+// Gatherings at a time: each can hang in stat() on a dead network mount for good.
 constexpr std::size_t mostRunning = 4;
 // How long the old findings stay before those that need no facts take their place.
 constexpr int patience = 700;  // milliseconds
@@ -31,7 +31,8 @@ ChecksRunner::ChecksRunner(const editor::ViewController& controller, FactsSource
   connect(&patience_, &QTimer::timeout, this, &ChecksRunner::showWithoutFacts);
 }
 
-// A thread that still waits for a file is left behind. It holds all that it works with.
+// Threads cannot be stopped in a system call: one that hangs is left behind. It shares the mailbox,
+// and finds there that nobody receives its result any more.
 ChecksRunner::~ChecksRunner() {
   const std::lock_guard lock(mailbox_->mutex);
   mailbox_->receiver = nullptr;
@@ -39,8 +40,8 @@ ChecksRunner::~ChecksRunner() {
 
 void ChecksRunner::lookAgain() {
   if (isWaiting_) {
-    // What is under way may have passed a file before it changed. Another thread beside one that
-    // hangs would hang as well.
+    // The gathering under way may have looked at a file before it changed: another one follows it.
+    // Begun at once, it would only hang beside it where a file system does not answer.
     again_ = isStarted();
   } else {
     gather();
@@ -70,7 +71,7 @@ void ChecksRunner::gather() {
     std::thread(std::move(work)).detach();
     ++running_;
   } catch (const std::system_error&) {
-    // Where the system grants no thread the findings that need no facts are all there are.
+    // No thread is to be had (EAGAIN): patience_ runs out and shows what needs no facts.
   }
 }
 

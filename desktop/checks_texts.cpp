@@ -8,7 +8,7 @@
 namespace desktop {
 namespace {
 
-// Some controls show entries, others words of the help.
+// Titles of entries are translated under "Items", "on" and "off" of check boxes under "Help".
 QString translatedWord(const std::string& word) {
   const QString ofHelp = QCoreApplication::translate("Help", word.c_str());
   return ofHelp == toQString(word) ? translatedItem(word) : ofHelp;

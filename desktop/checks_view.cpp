@@ -37,7 +37,7 @@ ChecksView::ChecksView(const editor::ViewController& controller, FactsSource sou
 }
 
 bool ChecksView::eventFilter(QObject* watched, QEvent* event) {
-  // Whoever comes back may have put a file where it was missing.
+  // While the window was in the background, a missing file may have been put into its place.
   if (event->type() == QEvent::WindowActivate) {
     runner_.lookAgain();
   }

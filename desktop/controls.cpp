@@ -31,7 +31,7 @@ class WheelGuard : public QObject {
   }
 };
 
-// Replaced only when they differ, because that would close an open list.
+// Replaces the entries only where they differ: QComboBox closes its open list when they change.
 void showItems(QComboBox* box, const std::vector<std::string>& items,
                QString (*text)(const std::string&)) {
   QStringList wanted;

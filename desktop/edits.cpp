@@ -81,7 +81,7 @@ void PendingEdit::finish() {
 }
 
 void PendingEdit::returnPressed() {
-  // With an offered completion picked, the completer tells of it right after this.
+  // Return on a completion of the open list: QCompleter::activated follows and commits that text.
   const QCompleter* const completer = field_->completer();
   const QAbstractItemView* const popup = completer != nullptr ? completer->popup() : nullptr;
   if (popup == nullptr || !popup->isVisible() || !popup->currentIndex().isValid()) {
@@ -92,7 +92,8 @@ void PendingEdit::returnPressed() {
 bool PendingEdit::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusOut) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    // With these reasons the focus comes back: a menu or another window is open in front.
+    // For these two the edit goes on: the focus comes back when the menu closes or the window is
+    // active again.
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
       finish();
     }

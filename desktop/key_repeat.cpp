@@ -8,7 +8,8 @@
 namespace desktop {
 namespace {
 
-// Characters are repeated where they are typed, arrows wherever they move.
+// Whether the key would press something. A held character goes on being typed into fields, and held
+// arrows go on moving; both press nothing.
 bool acts(const QObject* receiver, int key) {
   const bool isCharacter = key < Qt::Key_Escape;
   const bool takesPresses = qobject_cast<const QAbstractButton*>(receiver) != nullptr ||
@@ -23,7 +24,7 @@ KeyRepeat::KeyRepeat() { QCoreApplication::instance()->installEventFilter(this);
 bool KeyRepeat::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::ShortcutOverride:
-      // Comes before the shortcut, which does not tell of the key.
+      // Comes right before QEvent::Shortcut, which does not tell whether the key is held.
       repeating_ = static_cast<const QKeyEvent*>(event)->isAutoRepeat();
       return false;
     case QEvent::Shortcut:

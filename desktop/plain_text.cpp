@@ -13,7 +13,7 @@ class PlainMessages : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    // Polished before it is laid out, and only the layout loads what a text names.
+    // QMessageBox loads images that its text names when it is laid out, which is after this event.
     if (event->type() == QEvent::ChildPolished) {
       auto* const child = static_cast<QChildEvent*>(event)->child();
       if (auto* const box = qobject_cast<QMessageBox*>(child)) {

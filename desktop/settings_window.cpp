@@ -62,7 +62,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   help_->follow(content);
   fillPage(editor::TabId::volumes);
   guardStart();
-  // The controller may outlive this window.
+  // The action stays with the controller, which may outlive this window.
   controller.bitCreate.action = [window = QPointer(this)] {
     if (window) {
       window->openCreation();
@@ -78,7 +78,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
 }
 
 SettingsWindow::~SettingsWindow() {
-  // Nobody has seen it, or what it was then is not known yet.
+  // Without its pages it was never painted: size and tab are not what a person chose.
   if (!pagesComplete_) {
     return;
   }
@@ -151,8 +151,8 @@ void SettingsWindow::fillPage(editor::TabId id) {
   help_->follow(page);
 }
 
-// Where no desktop entry tells it, as on X11 or from the archive. Reading pictures takes time that
-// the first paint should not have to wait for.
+// X11, and Wayland without an installed desktop entry, take the icon from the program. It is set
+// after the first paint, since reading the pictures takes time.
 void SettingsWindow::showIcon() const {
   QIcon icon;
   for (const char* const size : {"16", "32", "64", "128"}) {

@@ -11,7 +11,8 @@
 namespace desktop {
 namespace {
 
-// A signal handler can reach nothing but this: it only writes a byte, which the event loop reads.
+// A pipe. A signal handler may call little more than write(): it writes a byte here, which the
+// event loop reads. Global, since a handler gets no argument of ours.
 std::array<int, 2> wakeUp = {-1, -1};
 
 void wake(int /*number*/) {

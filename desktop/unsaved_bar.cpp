@@ -56,10 +56,10 @@ void UnsavedBar::refresh() {
 void UnsavedBar::showCount() {
   const auto count = static_cast<int>(controller_.saved.changes().size()) +
                      (controller_.saved.volumesChanged() ? 1 : 0);
-  // Not by Qt's plural forms: they need a translation file, and English has none.
+  // Two texts instead of tr() with a count: English would need a translation file for its plurals.
   const QString text = count == 1 ? tr("1 unsaved change") : tr("%1 unsaved changes").arg(count);
-  // Not without need: a changed text has the window laid out and waited for, which comes here
-  // again.
+  // Only where it differs: setText() and setVisible() lay the window out, which leads to refresh()
+  // once more, and on without end.
   if (count > 0 && changesButton_->text() != text) {
     changesButton_->setText(text);
   }

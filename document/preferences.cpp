@@ -69,8 +69,8 @@ void Preferences::createFile() {
   output_.print("newNoPrefs:\n ", platform::optionalText(newNoPrefs[2]), "\n");
   const std::error_code error = platform::createFile(prefsURL->path(), joined(preferencesDefault));
   if (error == std::errc::file_exists) {
-    // Somebody has made one since it was looked for. It has not been read, and is not to be
-    // replaced without a word.
+    // Another program has made the file after load() looked for it. Nobody has read it: the error
+    // keeps a save from replacing it without a word in the window.
     readError_ = error.message();
   }
   if (!error) {
@@ -164,7 +164,7 @@ void Preferences::noteSaved() {
 void Preferences::setLocation(std::string_view text) {
   if (!prefsURL || prefsURL->path() != text) {
     prefsURL = platform::Location::fromText(text);
-    // The stamp is that of the file at the former place.
+    // Compared with the file at the new place, the old file's stamp would tell of a change.
     stamp_.reset();
     saveError_.clear();
   }

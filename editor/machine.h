@@ -123,7 +123,7 @@ class CpuSetting : public Setting {
   [[nodiscard]] std::string shownText(std::string_view value) const override;
 
  protected:
-  // At start-up the other key is not looked up yet.
+  // Nothing at start-up: fpu, the other half of the pair, is looked up after cpu, and fills.
   void fill() override {}
   void show() override { processor_.show(); }
 

@@ -62,7 +62,7 @@ TabId Tabs::idOf(const platform::TabViewItem& item) const {
 }
 
 void Tabs::prepareScsiTab() {
-  // Here a view can move to another tab, so that the tab needs no copy of its content.
+  // Kept for updateScsiTab(), which makes a new item with this view each time the tab comes back.
   sharedVar::newScsiTab = views_[scsiIndex];
   updateScsiTab();
   scsiID0.setState(platform::State::off);

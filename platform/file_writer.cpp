@@ -20,22 +20,22 @@ namespace {
 // source page by page.
 constexpr std::size_t stepLength = std::size_t{1} << 20U;
 
-// What a file system answers that cannot do a thing at all. The steps that follow have to tell
-// whether it was needed.
+// Whether the file system has no such operation. That alone fails no save: a later step does, if
+// the operation was needed.
 bool isUnsupported(int error) {
   return error == EINVAL || error == EOPNOTSUPP || error == ENOTSUP || error == ENOSYS;
 }
 
 std::error_code codeOf(std::errc error) { return std::make_error_code(error); }
 
-// A limit on file sizes keeps space from being written, not from being reserved.
+// fallocate() with FALLOC_FL_KEEP_SIZE succeeds beyond RLIMIT_FSIZE, and only write() fails there.
 std::error_code checkSizeLimit(std::size_t length) {
   rlimit limit{};
   const bool isKnown = ::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
   return isKnown && length > limit.rlim_cur ? codeOf(std::errc::file_too_large) : std::error_code();
 }
 
-// Where nothing can be reserved, free space at least is there now.
+// For file systems without fallocate(): looks whether the space is there at this moment.
 std::error_code checkFreeSpace(int descriptor, std::size_t length) {
   struct statvfs disk {};
   struct stat status {};
@@ -125,7 +125,8 @@ void FileWriter::lock() {
     ::poll(nullptr, 0, pauseMilliseconds);
   }
   if (!error_) {
-    // Who had the lock may have left another length, and has filled a file that we created.
+    // The writer that had the lock may have changed the length, and may have filled a file that was
+    // new when it was opened: takeBack() must neither cut nor remove that.
     error_ = file_.measure();
     isNew_ = isNew_ && file_.size() == 0;
   }
@@ -150,7 +151,8 @@ void FileWriter::reserve(std::size_t length) {
     return;
   }
 #ifdef __linux__
-  // The file keeps its length: should the program end here, it holds no zeros behind the old text.
+  // With FALLOC_FL_KEEP_SIZE the length stays: a program that is ended here leaves the old text
+  // without zeros behind it.
   const auto bytes = static_cast<off_t>(length);
   if (retried([&] { return ::fallocate(file_.get(), FALLOC_FL_KEEP_SIZE, 0, bytes); }) == 0) {
     return;
@@ -186,7 +188,7 @@ void FileWriter::takeBack() {
   if (isChanged_) {
     writeAll(file_.get(), kept_);
   }
-  // Gives back what had been reserved behind the old end, too.
+  // ftruncate() also frees the space that reserve() took behind the old end.
   setSize(file_.get(), file_.size());
 }
 

@@ -56,7 +56,7 @@ std::optional<std::string> readFile(const std::string& path, std::error_code& er
     return std::nullopt;
   }
   for (std::uintmax_t expected = file.size(); expected <= limit;) {
-    // A read that leaves the byte more free has seen the end.
+    // One byte more is asked for: where it does not come, the end of the file has been read.
     auto content = file.read(static_cast<std::size_t>(expected + 1), error);
     if (!content || content->size() <= expected) {
       return content;

@@ -88,7 +88,8 @@ void DescriptorOutput::sendWaiting() {
   waiting_.clear();
 }
 
-// Whether the target can be written to; without one, whether there is patience left afterwards.
+// Waits until the target can be written to and returns whether it can. With a null pointer it only
+// sleeps, and returns whether any of patience_ is left.
 bool DescriptorOutput::wait(pollfd* target, Clock::duration atMost) {
   const Clock::time_point start = Clock::now();
   patience_ = std::min<Clock::duration>(patience_ + (start - waited_), longestPatience);
