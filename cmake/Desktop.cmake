@@ -27,8 +27,8 @@ foreach(resource ${resources})
   list(APPEND copies ${contents}/Resources/${resource})
 endforeach()
 # Texts in other languages: scripts/translate.sh brings them up to date with the code.
-set_source_files_properties(resources/translations/quillon-settings_de.ts
-                            PROPERTIES OUTPUT_LOCATION ${contents}/Resources)
-qt_add_lrelease(quillon-settings TS_FILES resources/translations/quillon-settings_de.ts)
+file(GLOB translations CONFIGURE_DEPENDS resources/translations/*.ts)
+set_source_files_properties(${translations} PROPERTIES OUTPUT_LOCATION ${contents}/Resources)
+qt_add_lrelease(quillon-settings TS_FILES ${translations} QM_FILES_OUTPUT_VARIABLE languages)
 add_custom_target(bundle ALL DEPENDS ${copies})
 add_dependencies(quillon-settings bundle)

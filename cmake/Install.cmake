@@ -4,9 +4,6 @@
 set(packageName quillon-settings)
 
 # Resources come from the sources: the built bundle holds the settings of whoever tried it.
-file(GLOB languages CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/resources/translations
-     ${CMAKE_SOURCE_DIR}/resources/translations/*.ts)
-list(TRANSFORM languages REPLACE "(.*)\\.ts" "${contents}/Resources/\\1.qm")
 function(install_bundle folder)
   install(TARGETS quillon-settings RUNTIME DESTINATION ${folder}/Contents/MacOS ${ARGN})
   install(FILES ${contents}/Info.plist DESTINATION ${folder}/Contents ${ARGN})

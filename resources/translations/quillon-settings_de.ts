@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Disk images</source>
-        <translation>Festplattenabbilder</translation>
+        <translation>Disk-Images</translation>
     </message>
     <message>
         <source>Put Back</source>
