@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Tries the packages in build/packages as somebody would who gets them: installs or unpacks them,
-# makes a disk image and starts a stand-in for Quillon from an ordinary account, and removes them again. Only root can do
-# that. Of what it installs only the libraries that the program needs stay behind.
+# makes a disk image and starts a stand-in for Quillon from an ordinary account, and removes them
+# again. Only root can do that. Of what it installs only the libraries that the program needs stay
+# behind.
 set -euo pipefail
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 . "$root/scripts/packages.sh"

@@ -17,7 +17,7 @@ fail() {
 }
 
 checkTexts() {
-  local said options option documented
+  local said options option documented picture pictures
   # Warnings do not show in the status of these two, and failures say something, too.
   said=$(desktop-file-validate "$desktopEntry" 2>&1) || true
   said+=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 \
@@ -27,6 +27,10 @@ checkTexts() {
   said=$(appstreamcli validate --pedantic --no-net "$metainfo" | grep '^[A-Z]:' |
     grep -v 'unknown-tag developer$') || true
   [ -z "$said" ] || fail "$said"
+  pictures=$(grep -oE 'docs/pictures/[^<]+' "$metainfo")
+  for picture in $pictures; do
+    [ -f "$picture" ] || fail "$metainfo shows $picture, which is not there."
+  done
   options=$("$program" --help | grep -oE -- '--[a-z]+')
   # No pipe into grep -q: with pipefail it fails when grep has found the line before sed has ended.
   documented=$(sed 's/\\-/-/g' "$manual")

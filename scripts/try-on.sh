@@ -62,7 +62,9 @@ makeAndEnter() {
   cp /etc/resolv.conf "$system/etc/resolv.conf"
   chroot "$system" useradd --create-home --shell /bin/bash tester
   echo 'tester ALL=(ALL) NOPASSWD: ALL' >"$system/etc/sudoers.d/tester"
-  git clone --quiet "file://$root" "$home/quillon-settings"
+  # git refuses folders of other people, which a checkout in a container often is.
+  printf '[safe]\n\tdirectory = *\n' >"$scratch/gitconfig"
+  GIT_CONFIG_GLOBAL=$scratch/gitconfig git clone --quiet "file://$root" "$home/quillon-settings"
   chroot "$system" chown -R tester:tester /home/tester
 
   mount -t proc proc "$system/proc"
