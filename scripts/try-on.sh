@@ -60,6 +60,7 @@ makeAndEnter() {
   makeSystem "$system" "$release" "$architecture" ||
     giveUp "There is no $release for $architecture to be had here: nothing was tried on it."
   cp /etc/resolv.conf "$system/etc/resolv.conf"
+  echo "127.0.0.1 localhost $(uname -n)" >"$system/etc/hosts"  # or sudo looks for it in vain
   chroot "$system" useradd --create-home --shell /bin/bash tester
   echo 'tester ALL=(ALL) NOPASSWD: ALL' >"$system/etc/sudoers.d/tester"
   # git refuses folders of other people, which a checkout in a container often is.
