@@ -8,7 +8,10 @@ std::optional<std::size_t> TableView::selectedRow() const {
   return selected_.empty() ? std::nullopt : std::optional(selected_.back());
 }
 
-void TableView::selectRows(std::vector<std::size_t> rows) { set(selected_, std::move(rows)); }
+void TableView::selectRows(std::vector<std::size_t> rows) {
+  set(selected_, std::move(rows));
+  tellDataSource();
+}
 
 void TableView::reloadData() {
   const std::size_t count = numberOfRows();
@@ -46,6 +49,13 @@ void TableView::rowsChanged() {
   ++revision_;
   if (!updating_) {
     changed();
+    tellDataSource();
+  }
+}
+
+void TableView::tellDataSource() const {
+  if (dataSource != nullptr) {
+    dataSource->tableChanged();
   }
 }
 

@@ -45,6 +45,9 @@ class TableDataSource {
 
   /// Performs a drop above `row`; `items` are the texts of what is dropped.
   virtual bool acceptDrop(const std::vector<std::string>& items, std::size_t row) = 0;
+
+  /// The rows or the selection have changed.
+  virtual void tableChanged() {}
 };
 
 /// A table of rows of which several can be selected. Its cells are the data source's.
@@ -85,6 +88,7 @@ class TableView : public Control {
 
  private:
   void rowsChanged();
+  void tellDataSource() const;
 
   std::vector<TableColumn> columns_;
   std::vector<std::string> types_;

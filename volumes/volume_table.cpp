@@ -40,6 +40,10 @@ VolumeTable::VolumeTable(platform::Output& output, platform::Panels& panels)
   ronMode.setOn(true);
   browseFile.action = [this] { chooseFiles(); };
   removeVol.action = [this] { removeSelected(); };
+  moveUp.action = [this] { moveSelectionUp(); };
+  moveDown.action = [this] { moveSelectionDown(); };
+  moveUp.setEnabled(false);
+  moveDown.setEnabled(false);
   ronMode.action = [this] { switchList(); };
   sheetCreate.action = [this] { chooseNewPlace(); };
 }
@@ -117,11 +121,15 @@ void VolumeTable::chooseFiles() {
                             "hfs",   "ndif",         "dk*",    "cue"};
   panels_.beginSheet(panel, [this](const std::vector<platform::Location>& chosen) {
     auto fitting = platform::thatFitALine(chosen, output_);
-    if (!fitting.empty()) {
+    const bool areAny = !fitting.empty();
+    if (areAny) {
       result_ = std::move(fitting);
       volumes_.add(result_);
     }
     tableView.reloadData();
+    if (areAny) {
+      added();
+    }
   });
 }
 
@@ -203,19 +211,32 @@ void VolumeTable::moveSelection(std::size_t dropRow) {
   acceptDrop(items, dropRow);
 }
 
-void VolumeTable::moveSelectionUp() {
+bool VolumeTable::canMoveUp() const {
   const auto& rows = tableView.selectedRows();
-  const auto first = std::min_element(rows.begin(), rows.end());
-  if (first != rows.end() && *first > 0) {
-    moveSelection(*first - 1);
+  return !rows.empty() && *std::min_element(rows.begin(), rows.end()) > 0;
+}
+
+bool VolumeTable::canMoveDown() const {
+  const auto& rows = tableView.selectedRows();
+  return !rows.empty() && *std::max_element(rows.begin(), rows.end()) + 1 < volumes_.size();
+}
+
+void VolumeTable::tableChanged() {
+  moveUp.setEnabled(canMoveUp());
+  moveDown.setEnabled(canMoveDown());
+}
+
+void VolumeTable::moveSelectionUp() {
+  if (canMoveUp()) {
+    const auto& rows = tableView.selectedRows();
+    moveSelection(*std::min_element(rows.begin(), rows.end()) - 1);
   }
 }
 
 void VolumeTable::moveSelectionDown() {
-  const auto& rows = tableView.selectedRows();
-  const auto last = std::max_element(rows.begin(), rows.end());
-  if (last != rows.end() && *last + 1 < volumes_.size()) {
-    moveSelection(*last + 2);
+  if (canMoveDown()) {
+    const auto& rows = tableView.selectedRows();
+    moveSelection(*std::max_element(rows.begin(), rows.end()) + 2);
   }
 }
 

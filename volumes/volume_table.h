@@ -8,6 +8,7 @@
 
 #include "platform/control.h"
 #include "platform/panels.h"
+#include "platform/subscription.h"
 #include "platform/table_view.h"
 #include "volumes/volume_list.h"
 
@@ -22,6 +23,8 @@ class VolumeTable : public platform::TableDataSource {
   platform::TableView tableView{"tableView"};
   platform::Button browseFile{"browseFile"};
   platform::Button removeVol{"removeVol"};
+  platform::Button moveUp{"moveUp"};  // these two are enabled while they can act
+  platform::Button moveDown{"moveDown"};
   platform::Button ronMode{"ronMode"};
   platform::Button sheetCreate{"sheetCreate"};
   platform::TextField loCalDebug{"loCalDebug"};
@@ -37,6 +40,12 @@ class VolumeTable : public platform::TableDataSource {
   /// Makes these the images again.
   void restore(const VolumeList::Entries& entries);
 
+  /// What was added last: the rows at the end of the table.
+  [[nodiscard]] const std::vector<platform::Location>& result() const { return result_; }
+
+  /// Runs after rows have been added.
+  platform::Callback added;
+
   /// Moves the selected rows one place, by the rule of a drop beside their neighbour.
   void moveSelectionUp();
   void moveSelectionDown();
@@ -48,6 +57,7 @@ class VolumeTable : public platform::TableDataSource {
   [[nodiscard]] platform::DragOperation validateDrop(
       platform::DropOperation operation) const override;
   bool acceptDrop(const std::vector<std::string>& items, std::size_t dropRow) override;
+  void tableChanged() override;
 
  private:
   struct Column {
@@ -64,6 +74,8 @@ class VolumeTable : public platform::TableDataSource {
   void removeSelected();
   void switchList();
   void chooseNewPlace();
+  [[nodiscard]] bool canMoveUp() const;
+  [[nodiscard]] bool canMoveDown() const;
   void moveSelection(std::size_t dropRow);
 
   platform::Output& output_;
