@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <algorithm>
 #include <cmath>
 
 namespace desktop {
@@ -15,9 +16,20 @@ int distance(const QColor& one, const QColor& other) {
   return std::abs(one.lightness() - other.lightness());
 }
 
-QColor middle(const QColor& one, const QColor& other) {
-  return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
-          (one.blue() + other.blue()) / 2};
+QColor middle(const QColor& one, const QColor& other) { return mixed(one, other, 0.5); }
+
+// As the Web Content Accessibility Guidelines (2.1) define it.
+double luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+  const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+  return (lighter + 0.05) / (darker + 0.05);
 }
 
 // Qt's own style draws borders a little darker than the window. Where that is black already,
@@ -103,6 +115,22 @@ QPalette readable(QPalette palette) {
     palette.setColor(QPalette::PlaceholderText, color);
   }
   return palette;
+}
+
+QColor readableOn(const QColor& background, const QColor& color) {
+  constexpr double enough = 4.5;
+  if (contrast(background, color) >= enough) {
+    return color;
+  }
+  return contrast(background, Qt::white) > contrast(background, Qt::black) ? Qt::white : Qt::black;
+}
+
+QColor mixed(const QColor& one, const QColor& other, double share) {
+  const auto part = [share](double from, double to) {
+    return static_cast<float>(from + (to - from) * share);
+  };
+  return QColor::fromRgbF(part(one.redF(), other.redF()), part(one.greenF(), other.greenF()),
+                          part(one.blueF(), other.blueF()));
 }
 
 void makeReadable() {

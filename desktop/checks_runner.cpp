@@ -58,11 +58,11 @@ void ChecksRunner::gather() {
   }
   auto work = [mailbox = mailbox_, source = source_, state = checks::stateOf(controller_),
                number = newest_] {
-    auto found = checks::findings(state, source(state));
+    const auto found = std::make_shared<Found>(look(state, source));
     const std::lock_guard lock(mailbox->mutex);
     if (ChecksRunner* const receiver = mailbox->receiver) {
-      const auto deliver = [receiver, number, found = std::move(found)] {
-        receiver->receive(number, found);
+      const auto deliver = [receiver, number, found] {
+        receiver->receive(number, std::move(*found));
       };
       QMetaObject::invokeMethod(receiver, deliver, Qt::QueuedConnection);
     }
@@ -75,14 +75,25 @@ void ChecksRunner::gather() {
   }
 }
 
-void ChecksRunner::receive(std::size_t number, std::vector<checks::Finding> found) {
+// Runs on a thread of its own.
+ChecksRunner::Found ChecksRunner::look(const checks::State& state, const FactsSource& source) {
+  checks::Facts facts = source(state);
+  Found found{checks::findings(state, facts), {}};
+  for (std::size_t index = 0; index < state.disks.size(); ++index) {
+    found.imageFacts.emplace(state.disks[index], std::move(facts.disks.at(index)));
+  }
+  return found;
+}
+
+void ChecksRunner::receive(std::size_t number, Found found) {
   --running_;
   if (std::exchange(again_, false)) {
     gather();
   } else if (number == newest_) {
     patience_.stop();
     isWaiting_ = false;
-    findings_ = std::move(found);
+    findings_ = std::move(found.findings);
+    imageFacts_ = std::move(found.imageFacts);
     emit changed();
   }
 }

@@ -4,6 +4,8 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "checks/facts.h"
@@ -15,6 +17,9 @@ namespace desktop {
 /// Where the facts about files come from. It is called outside the window's thread, may take as
 /// long as it wants, and may return after the program has forgotten about it.
 using FactsSource = std::function<checks::Facts(const checks::State&)>;
+
+/// The facts about disk images by their paths.
+using ImageFacts = std::unordered_map<std::string, checks::FileFact>;
 
 /// Keeps the findings up to date. The window's thread never waits for a file: facts are gathered on
 /// threads of their own, and those that are outdated when they arrive are dropped.
@@ -36,6 +41,9 @@ class ChecksRunner : public QObject {
   /// those that need no facts.
   [[nodiscard]] const std::vector<checks::Finding>& findings() const { return findings_; }
 
+  /// The facts that came last. Images that have been added since are not among them.
+  [[nodiscard]] const ImageFacts& imageFacts() const { return imageFacts_; }
+
   /// Whether the facts are still to come.
   [[nodiscard]] bool isWaiting() const { return isWaiting_; }
 
@@ -43,9 +51,14 @@ class ChecksRunner : public QObject {
   void changed();
 
  private:
+  struct Found {
+    std::vector<checks::Finding> findings;
+    ImageFacts imageFacts;
+  };
   struct Mailbox;
 
-  void receive(std::size_t number, std::vector<checks::Finding> found);
+  [[nodiscard]] static Found look(const checks::State& state, const FactsSource& source);
+  void receive(std::size_t number, Found found);
   void showWithoutFacts();
 
   const editor::ViewController& controller_;
@@ -53,6 +66,7 @@ class ChecksRunner : public QObject {
   std::shared_ptr<Mailbox> mailbox_;  // also held by the threads, which may outlive this object
   QTimer patience_;
   std::vector<checks::Finding> findings_;
+  ImageFacts imageFacts_;
   std::size_t newest_ = 0;   // number of the gathering begun last
   std::size_t running_ = 0;  // gatherings that have not come back
   bool isWaiting_ = true;

@@ -57,6 +57,7 @@ void ChecksView::show() {
   }
   markTabs();
   describeControls();
+  window_.volumes->rows().setFacts(runner_.imageFacts());
   emit changed();
 }
 

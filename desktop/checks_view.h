@@ -10,6 +10,7 @@
 #include "desktop/checks_list.h"
 #include "desktop/checks_runner.h"
 #include "desktop/setting_widgets.h"
+#include "desktop/volume_view.h"
 
 namespace desktop {
 
@@ -26,7 +27,7 @@ class ChecksView : public QObject {
     QTabWidget* tabs;
     SettingWidgets& settings;  // more are added while the pages are being made
     QWidget* fileField;
-    QAbstractItemView* volumes;
+    VolumeView* volumes;
     QWidget* preferencesButton;
     std::function<QWidget*()> showLocation;  // opens what shows where Quillon is
   };

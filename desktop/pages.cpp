@@ -7,7 +7,7 @@
 
 #include "desktop/page_builder.h"
 #include "desktop/texts.h"
-#include "desktop/volume_view.h"
+#include "desktop/volumes_list.h"
 
 namespace desktop {
 
@@ -17,35 +17,11 @@ namespace {
 
 QWidget* volumesPage(const PageContext& context) {
   Controls& controls = context.controls;
-  volumes::VolumeTable& volumes = context.controller.volumes;
   editor::SharedFolderGroup& shared = context.controller.sharedFolder;
-
-  auto* const table = new VolumeView(volumes, context.bundle);
-  table->setAccessibleName(tr("Disk images"));
-  table->setWhatsThis(tr("The disk images of the Macintosh, in their order."));
-  table->setAccessibleDescription(table->whatsThis());
-  auto* const title = new QLabel(tr("Disk i&mages:"));
-  title->setObjectName(QLatin1String("volumesLabel"));
-  title->setBuddy(table);
-  context.volumesLabel = title;
-  title->setAlignment(leadingSide() | Qt::AlignVCenter);
-
-  auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(
-      controls.pushButton(volumes.browseFile, tr("&Add…"), tr("Adds image files to the list.")));
-  buttons->addWidget(
-      controls.pushButton(volumes.removeVol, tr("Remo&ve"),
-                          tr("Takes the selected image off the list. The file stays.")));
-  buttons->addWidget(
-      controls.pushButton(context.controller.bitCreate, tr("New &Blank Image…"),
-                          tr("Makes an empty disk image. It is not added to the list.")));
-  buttons->addStretch();
 
   auto* const page = new QWidget;
   auto* const layout = new QVBoxLayout(page);
-  layout->addWidget(title);
-  layout->addWidget(table, 1);
-  layout->addLayout(buttons);
+  layout->addLayout(new VolumesList(context), 1);
   PageBuilder builder(controls, context.settingWidgets);
   builder.field(shared.unixRootPath, controls.pushButton(shared.unixRoot, tr("Ch&oose…"),
                                                          tr("Chooses the shared folder.")));

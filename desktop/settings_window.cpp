@@ -20,6 +20,7 @@
 #include "desktop/pages.h"
 #include "desktop/preview_window.h"
 #include "desktop/texts.h"
+#include "desktop/volume_view.h"
 
 namespace desktop {
 namespace {
@@ -259,7 +260,7 @@ ChecksView::Window SettingsWindow::checkedWindow(ChecksLine* line) {
           tabs_,
           settingWidgets_,
           fileField_,
-          qobject_cast<QAbstractItemView*>(qobject_cast<QLabel*>(volumesLabel_)->buddy()),
+          findChild<VolumeView*>(),
           preferencesButton_,
           showLocation};
 }

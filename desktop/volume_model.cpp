@@ -7,20 +7,74 @@
 
 #include "desktop/plain_text.h"
 #include "desktop/texts.h"
+#include "platform/byte_count.h"
 
 namespace desktop {
 
 using platform::DragOperation;
 using platform::DropOperation;
 
-VolumeModel::VolumeModel(platform::TableView& table, platform::Bundle images, QObject* parent)
-    : QAbstractTableModel(parent), table_(table), images_(std::move(images)) {}
+VolumeModel::VolumeModel(volumes::VolumeTable& volumes, platform::Bundle images, QObject* parent)
+    : QAbstractTableModel(parent),
+      volumes_(volumes),
+      table_(volumes.tableView),
+      images_(std::move(images)) {}
 
 void VolumeModel::reload() {
   beginResetModel();
   cells_.clear();
   rows_ = static_cast<int>(table_.numberOfRows());
   endResetModel();
+}
+
+void VolumeModel::setFacts(const ImageFacts& facts) {
+  facts_ = facts;
+  if (rows_ > 0) {
+    emit dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1),
+                     {Qt::AccessibleDescriptionRole, Qt::ToolTipRole});
+  }
+}
+
+const checks::FileFact* VolumeModel::factAbout(int row) const {
+  const auto fact = facts_.find(pathOf(row));
+  return fact != facts_.end() ? &fact->second : nullptr;
+}
+
+std::string VolumeModel::pathOf(int row) const {
+  return volumes_.volumes().volName().at(static_cast<std::size_t>(row)).path();
+}
+
+QString VolumeModel::troubleOf(int row) const {
+  const checks::FileFact* const fact = factAbout(row);
+  if (fact != nullptr && fact->kind == checks::FileFact::Kind::nothing) {
+    return tr("This file is missing.");
+  }
+  if (fact != nullptr && fact->kind == checks::FileFact::Kind::unknown) {
+    return tr("This file cannot be reached: %1").arg(toQString(fact->error));
+  }
+  return {};
+}
+
+QString VolumeModel::summary() const {
+  if (rows_ == 0) {
+    return {};
+  }
+  QStringList parts(rows_ == 1 ? tr("1 disk image") : tr("%n disk images", nullptr, rows_));
+  std::int64_t bytes = 0;
+  int missing = 0;
+  for (int row = 0; row < rows_ && !facts_.empty(); ++row) {
+    if (const checks::FileFact* const fact = factAbout(row)) {
+      bytes += fact->kind == checks::FileFact::Kind::file ? fact->stamp.size : 0;
+      missing += fact->kind == checks::FileFact::Kind::nothing ? 1 : 0;
+    }
+  }
+  if (bytes > 0) {
+    parts.append(toQString(platform::ByteCountFormatter().stringFromByteCount(bytes)));
+  }
+  if (missing > 0) {
+    parts.append(tr("%n missing", nullptr, missing));
+  }
+  return parts.join(tr(", ", "between the parts of \"12 disk images, 1.3 GB, 2 missing\""));
 }
 
 int VolumeModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
@@ -61,6 +115,9 @@ QVariant VolumeModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::TextAlignmentRole) {
     return alignment(index.column());
   }
+  if (role == Qt::AccessibleDescriptionRole && index.isValid()) {
+    return troubleOf(index.row());
+  }
   const bool shownRole = role == Qt::DisplayRole || role == Qt::ToolTipRole ||
                          role == Qt::AccessibleTextRole || role == Qt::DecorationRole;
   const platform::TableCell* const shownCell = shownRole ? cell(index) : nullptr;
@@ -71,7 +128,10 @@ QVariant VolumeModel::data(const QModelIndex& index, int role) const {
     return shownCell->image.empty() ? QVariant() : QVariant(image(shownCell->image));
   }
   const QString text = toQString(shownCell->text);
-  return role == Qt::ToolTipRole ? plainToolTip(text) : text;
+  if (role == Qt::ToolTipRole) {
+    return plainToolTip((text + QLatin1Char('\n') + troubleOf(index.row())).trimmed());
+  }
+  return text;
 }
 
 QVariant VolumeModel::alignment(int column) const {

@@ -1,38 +1,25 @@
 #include "desktop/volume_view.h"
 
+#include <QContextMenuEvent>
+#include <QDrag>
 #include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 #include <algorithm>
 #include <set>
 
+#include "desktop/appearance.h"
 #include "desktop/texts.h"
+#include "desktop/volume_delegate.h"
+#include "desktop/volume_menu.h"
 
 namespace desktop {
 
 namespace {
-
-// Is painted behind texts that end at the right, which would otherwise touch those of the next
-// column. The model does not have it: screen readers and tools would.
-constexpr QChar columnGap(0x2002);  // an en space
-
-class CellDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
- protected:
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    option->text = leftToRight(option->text);
-    if (option->displayAlignment.testFlag(Qt::AlignRight)) {
-      option->text += columnGap;
-    }
-  }
-};
 
 class TableHeader : public QHeaderView {
  public:
@@ -64,10 +51,10 @@ class TableHeader : public QHeaderView {
 }  // namespace
 
 VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images)
-    : volumes_(volumes), model_(volumes.tableView, images, this) {
+    : volumes_(volumes), model_(volumes, images, this) {
   setObjectName(toQString(volumes.tableView.name()));
   setModel(&model_);
-  setItemDelegate(new CellDelegate(this));
+  setItemDelegate(new VolumeDelegate(this));
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setDragDropMode(DragDrop);
@@ -88,6 +75,7 @@ VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& im
   header->setSectionResizeMode(0, QHeaderView::Stretch);
   header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
   shown_ = volumes.tableView.attach([this] { showState(); });
+  added_ = volumes.added.subscribe([this] { selectAdded(); });
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &VolumeView::rememberSelection);
 }
@@ -141,6 +129,39 @@ void VolumeView::rememberSelection(const QItemSelection& selected,
   volumes_.tableView.edit([&] { volumes_.tableView.selectRows(std::move(rows)); });
 }
 
+void VolumeView::selectAdded() {
+  const int last = model_.rowCount() - 1;
+  const int first = last + 1 - static_cast<int>(volumes_.result().size());
+  selectionModel()->setCurrentIndex(model_.index(last, 0), QItemSelectionModel::NoUpdate);
+  selectionModel()->select(QItemSelection(model_.index(first, 0), model_.index(last, 0)),
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(model_.index(last, 0));
+}
+
+// Whoever comes by the keyboard for the first time finds a row to go on from. A click selects the
+// row that it is on by itself.
+void VolumeView::focusInEvent(QFocusEvent* event) {
+  QTableView::focusInEvent(event);
+  if (!wasEntered_ && event->reason() != Qt::MouseFocusReason && model_.rowCount() > 0) {
+    wasEntered_ = true;
+    if (!selectionModel()->hasSelection()) {
+      // selectRow would go by the modifiers that are held, Shift with Shift+Tab.
+      selectionModel()->setCurrentIndex(
+          model_.index(0, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
+  }
+}
+
+void VolumeView::contextMenuEvent(QContextMenuEvent* event) {
+  const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+  const QPoint place = byKeyboard ? visualRect(currentIndex()).center() : event->pos();
+  if (indexAt(place).isValid()) {
+    (new VolumeMenu(
+         volumes_, [this] { removeRow(); }, this))
+        ->popup(viewport()->mapToGlobal(place));
+  }
+}
+
 void VolumeView::keyPressEvent(QKeyEvent* event) {
   const bool alt = event->modifiers() == Qt::AltModifier;
   // A held Delete would empty the list.
@@ -166,6 +187,43 @@ void VolumeView::removeRow() {
   if (row && model_.rowCount() < rows && !selectionModel()->hasSelection()) {
     selectRow(std::min(static_cast<int>(*row), model_.rowCount() - 1));
   }
+}
+
+// QAbstractItemView's own picture is that of the dragged rows, right under the mouse, where it
+// hides the line that shows where they will fall. This one is small and hangs below the mouse,
+// further down than such a line ever is.
+void VolumeView::startDrag(Qt::DropActions supportedActions) {
+  const QModelIndexList rows = selectionModel()->selectedRows();
+  if (rows.isEmpty()) {
+    return;
+  }
+  auto* const drag = new QDrag(this);
+  drag->setMimeData(model_.mimeData(rows));
+  drag->setPixmap(dragPicture(static_cast<std::size_t>(rows.size())));
+  const int row = verticalHeader()->defaultSectionSize();
+  drag->setHotSpot(QPoint(-row / 2, -row));
+  drag->exec(supportedActions, defaultDropAction());
+}
+
+// The name of the image, or how many there are.
+QPixmap VolumeView::dragPicture(std::size_t rows) const {
+  const QModelIndex current = model_.index(currentIndex().row(), 0);
+  const QString path = current.data().toString();
+  const QString text = rows == 1 ? path.mid(path.lastIndexOf(QLatin1Char('/')) + 1)
+                                 : tr("%n disk images", nullptr, static_cast<int>(rows));
+  const int letter = fontMetrics().averageCharWidth();
+  const QString shown = fontMetrics().elidedText(text, Qt::ElideMiddle, 40 * letter);
+  const QSize size(fontMetrics().horizontalAdvance(shown) + 2 * letter,
+                   fontMetrics().lineSpacing() + letter);
+  QPixmap picture(size * devicePixelRatioF());
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  picture.fill(palette().color(QPalette::Highlight));
+  QPainter painter(&picture);
+  painter.setFont(font());
+  painter.setPen(
+      readableOn(palette().color(QPalette::Highlight), palette().color(QPalette::HighlightedText)));
+  painter.drawText(QRect(QPoint(), size), Qt::AlignCenter | Qt::TextSingleLine, shown);
+  return picture;
 }
 
 // A drag carries row numbers, which mean other rows in the table of another process.
@@ -196,18 +254,9 @@ int VolumeView::sizeHintForColumn(int column) const {
 
 void VolumeView::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
-  if (model_.rowCount() == 0) {
-    paintHint();
-  } else if (state() == DraggingState) {
+  if (state() == DraggingState) {
     paintDropLine();
   }
-}
-
-void VolumeView::paintHint() {
-  QPainter painter(viewport());
-  painter.setPen(palette().color(QPalette::PlaceholderText));
-  painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                   tr("No disk images yet. Press Insert or the button \"Add…\" to add one."));
 }
 
 void VolumeView::paintDropLine() {

@@ -1,0 +1,150 @@
+#include "desktop/volume_delegate.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyle>
+
+#include "desktop/appearance.h"
+#include "desktop/checks_texts.h"
+#include "desktop/texts.h"
+
+namespace desktop {
+namespace {
+
+/// One cell while it is being painted. What is painted takes its room off the rest.
+class CellPainter {
+ public:
+  CellPainter(QPainter& painter, const QStyleOptionViewItem& cell)
+      : painter_(painter), cell_(cell), style_(*cell.widget->style()) {
+    const QPalette::ColorGroup group =
+        (cell.state & QStyle::State_Active) != 0 ? QPalette::Active : QPalette::Inactive;
+    isSelected_ = (cell.state & QStyle::State_Selected) != 0;
+    background_ = cell.palette.color(group, isSelected_ ? QPalette::Highlight : QPalette::Base);
+    text_ = readableOn(
+        background_,
+        cell.palette.color(group, isSelected_ ? QPalette::HighlightedText : QPalette::Text));
+    constexpr double faintness = 0.35;
+    faint_ = readableOn(background_, mixed(text_, background_, faintness));
+    const int margin = style_.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
+    rest_ = cell.rect.adjusted(margin, 0, -margin, 0);
+  }
+
+  // By itself, and not by the style: some styles paint the selection in other colours than those
+  // of the palette, and leave the text in its own.
+  void paintBackground() {
+    if (isSelected_) {
+      painter_.fillRect(cell_.rect, background_);
+    } else {
+      style_.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell_, &painter_, cell_.widget);
+    }
+  }
+
+  void paintIcon(const QIcon& icon, Qt::AlignmentFlag side) {
+    if (!icon.isNull()) {
+      const QSize size = cell_.decorationSize;
+      icon.paint(&painter_, take(size.width(), side), Qt::AlignCenter);
+      take(size.width() / 2, side);
+    }
+  }
+
+  void paintText(const QString& text) {
+    draw(text, cell_.font, text_, cell_.displayAlignment, cell_.textElideMode);
+  }
+
+  void paintPath(const QString& path) {
+    const auto name = path.lastIndexOf(QLatin1Char('/')) + 1;
+    QFont strong = cell_.font;
+    strong.setWeight(QFont::DemiBold);
+    const int width = draw(leftToRight(path.mid(name)), strong, text_,
+                           Qt::AlignLeading | Qt::AlignVCenter, Qt::ElideMiddle);
+    take(width + cell_.fontMetrics.averageCharWidth(), Qt::AlignLeft);
+    draw(leftToRight(path.left(name)), cell_.font, faint_, Qt::AlignLeading | Qt::AlignVCenter,
+         Qt::ElideMiddle);
+  }
+
+  void paintFocus() {
+    if ((cell_.state & QStyle::State_HasFocus) != 0) {
+      QStyleOptionFocusRect focus;
+      focus.QStyleOption::operator=(cell_);
+      focus.backgroundColor = background_;
+      style_.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter_, cell_.widget);
+    }
+  }
+
+ private:
+  /// Takes room off one side, the left one where the text begins there.
+  QRect take(int width, Qt::AlignmentFlag side) {
+    const QRect taken = QStyle::alignedRect(cell_.direction, side | Qt::AlignVCenter,
+                                            QSize(width, rest_.height()), rest_);
+    if (taken.left() == rest_.left()) {
+      rest_.setLeft(taken.right() + 1);
+    } else {
+      rest_.setRight(taken.left() - 1);
+    }
+    return taken;
+  }
+
+  /// Returns the width of what is drawn.
+  int draw(const QString& text, const QFont& font, const QColor& color, Qt::Alignment alignment,
+           Qt::TextElideMode elide) {
+    if (rest_.width() <= 0) {
+      return 0;
+    }
+    const QFontMetrics metrics(font);
+    QString shown = text;
+    int width = metrics.horizontalAdvance(text);
+    if (width > rest_.width()) {
+      shown = metrics.elidedText(text, elide, rest_.width());
+      width = rest_.width();
+    }
+    painter_.setFont(font);
+    painter_.setPen(color);
+    painter_.drawText(rest_,
+                      int(QStyle::visualAlignment(cell_.direction, alignment)) | Qt::TextSingleLine,
+                      shown);
+    return width;
+  }
+
+  QPainter& painter_;
+  const QStyleOptionViewItem& cell_;
+  const QStyle& style_;
+  bool isSelected_;
+  QColor background_;
+  QColor text_;
+  QColor faint_;
+  QRect rest_;
+};
+
+}  // namespace
+
+void VolumeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  option->text = leftToRight(option->text);
+  if (option->displayAlignment.testFlag(Qt::AlignRight)) {
+    option->text += columnGap;
+  }
+}
+
+void VolumeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  painter->save();
+  painter->setClipRect(cell.rect);
+  painter->setLayoutDirection(cell.direction);
+  CellPainter parts(*painter, cell);
+  parts.paintBackground();
+  if (index.column() == 0) {
+    parts.paintIcon(cell.icon, Qt::AlignLeft);
+    if (!index.data(Qt::AccessibleDescriptionRole).toString().isEmpty()) {
+      parts.paintIcon(iconOf(checks::Level::warning), Qt::AlignRight);
+    }
+    parts.paintPath(index.data().toString());
+  } else {
+    parts.paintText(cell.text);
+  }
+  parts.paintFocus();
+  painter->restore();
+}
+
+}  // namespace desktop

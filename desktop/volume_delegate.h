@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace desktop {
+
+/// Is painted behind texts that end at the right, which would otherwise touch those of the next
+/// column. The model does not have it: screen readers and tools would.
+inline constexpr QChar columnGap(0x2002);  // an en space
+
+/// Paints the cells of the table of disk images. Of a path the name comes first, the folder behind
+/// it in a fainter colour, and at the end of the cell a sign when something is wrong with the file.
+class VolumeDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+}  // namespace desktop
