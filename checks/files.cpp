@@ -112,7 +112,7 @@ void checkPreferencesFile(const State& state, const Facts& facts, Collector& fou
     stop(translatable("Checks",
                       "The preferences file could not be read: %1. What you see are the defaults, "
                       "and saving puts them in the place of what is in the file."),
-         file.readError);
+         std::vector{file.readError});
   }
   if (!file.path) {
     stop(translatable("Checks",

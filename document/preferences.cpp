@@ -18,6 +18,13 @@ std::string joined(const std::vector<std::string>& lines) {
   return text;
 }
 
+// What a person is told. The C library speaks of wide characters where a text is not UTF-8.
+std::string reasonOf(const std::error_code& error) {
+  return error == std::errc::illegal_byte_sequence
+             ? platform::translatable("Help", "it is not UTF-8 text")
+             : error.message();
+}
+
 }  // namespace
 
 Preferences::Preferences(std::string homeDirectory, platform::Output& output)
@@ -54,8 +61,8 @@ void Preferences::readFile() {
   if (auto text = platform::readTextFile(prefsPath, error)) {
     settings = Lines(*std::move(text));
   } else {
-    readError_ = error.message();
-    output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ", readError_);
+    readError_ = reasonOf(error);
+    output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ", error.message());
   }
 }
 

@@ -19,6 +19,7 @@ struct OpenPanel {
   bool allowsMultipleSelection = false;
   std::vector<std::string> allowedFileTypes;  // file name endings; empty: any
   std::string directory;                      // where it opens; empty: its own choice
+  std::string chosenFile{};                   // is chosen when it opens
 };
 
 /// How a panel for naming a new file is set up.

@@ -41,9 +41,15 @@ createViewController::createViewController(platform::Output& output, platform::P
                                            ImageFolder& folder)
     : output_(output), panels_(panels), folder_(folder) {
   imageFolder.setEditable(false);
+  addToList.setEnabled(false);
   chooseImageFolder.action = [this] { chooseFolder(); };
   createImage.action = [this] { createAction(); };
   createName.action = [this] { createNameAction(); };
+  addToList.action = [this] {
+    if (donecreate_ && add) {
+      add(imageName_);
+    }
+  };
   startAnim.action = [this] { AnimOn(); };
   stopAnim.action = [this] { AnimOff(); };
 }
@@ -54,6 +60,7 @@ void createViewController::viewWillAppear() {
   createStatus.setTextColor(TextColor::gray);
   createImage.setTitle(platform::translatable("Items", "Create"));
   donecreate_ = false;
+  addToList.setEnabled(false);
   lookAtFolder();
 }
 
@@ -139,6 +146,7 @@ void createViewController::createAction() {
   createStatus.setStringValue("Status: '" + name + "' - " + std::to_string(imageSize_) +
                               " MB Done!");
   donecreate_ = true;
+  addToList.setEnabled(true);
   createImage.setTitle(platform::translatable("Items", "Done"));
 }
 

@@ -25,6 +25,9 @@ class createViewController {
   /// Closes the sheet.
   std::function<void()> dismiss;
 
+  /// Closes the sheet, then has a file chosen for the list, beginning with this one.
+  std::function<void(const std::string& path)> add;
+
   /// Shows what `folderState` tells, after it may have changed.
   std::function<void()> showFolder;
   [[nodiscard]] const ImageFolder::State& folderState() const { return folderState_; }
@@ -32,6 +35,8 @@ class createViewController {
   platform::TextField createName{"createName"};
   platform::TextField createSize{"createSize"};  // megabytes
   platform::Button createImage{"createImage"};
+  /// Opens Add… at the image that has been made; enabled once there is one.
+  platform::Button addToList{"addToList"};
   platform::TextField createStatus{"createStatus"};
   platform::TextField imageFolder{"imageFolder"};  // its path
   platform::Button chooseImageFolder{"chooseImageFolder"};

@@ -111,7 +111,7 @@ void VolumeTable::switchList() {
   tableView.reloadData();
 }
 
-void VolumeTable::chooseFiles() {
+void VolumeTable::chooseFiles(const std::string& chosenFile) {
   platform::OpenPanel panel;
   panel.title = "Select a volume";
   panel.canCreateDirectories = true;
@@ -119,6 +119,7 @@ void VolumeTable::chooseFiles() {
   panel.allowedFileTypes = {"img",   "dmg",          "dsk",    "image", "cdr", "iso",
                             "toast", "sparsebundle", "sparse", "dc42",  "hfv", "hvf",
                             "hfs",   "ndif",         "dk*",    "cue"};
+  panel.chosenFile = chosenFile;
   panels_.beginSheet(panel, [this](const std::vector<platform::Location>& chosen) {
     auto fitting = platform::thatFitALine(chosen, output_);
     const bool areAny = !fitting.empty();

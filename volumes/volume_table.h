@@ -46,6 +46,9 @@ class VolumeTable : public platform::TableDataSource {
   /// Runs after rows have been added.
   platform::Callback added;
 
+  /// Has files chosen and adds them. `chosenFile` is chosen from the beginning, unless it is empty.
+  void chooseFiles(const std::string& chosenFile = {});
+
   /// Moves the selected rows one place, by the rule of a drop beside their neighbour.
   void moveSelectionUp();
   void moveSelectionDown();
@@ -70,7 +73,6 @@ class VolumeTable : public platform::TableDataSource {
   platform::TableCell nameCell(const platform::Location& location, std::size_t row);
   platform::TableCell sizeCell(const platform::Location& location, std::size_t row);
   platform::TableCell kindCell(const platform::Location& location, std::size_t row);
-  void chooseFiles();
   void removeSelected();
   void switchList();
   void chooseNewPlace();
