@@ -171,6 +171,28 @@ QAction* Controls::menuEntry(platform::Button& control, const QString& text, QOb
 QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help,
                               PendingEdit::Commits commits) {
   auto* const field = new QLineEdit;
+  tie(control, help, commits, field);
+  return field;
+}
+
+// The outlet is the field in the box, and has its name.
+QComboBox* Controls::lineEditWithChoices(platform::TextField& control, const QString& help,
+                                         const QStringList& choices) {
+  auto* const box = new QComboBox;
+  box->setObjectName(toQString(control.name()) + QLatin1Char('s'));
+  box->setToolTip(help);
+  guardWheel(box);
+  box->setEditable(true);
+  box->setInsertPolicy(QComboBox::NoInsert);
+  box->setCompleter(nullptr);
+  box->addItems(choices);
+  box->setCurrentIndex(-1);
+  tie(control, help, PendingEdit::Commits::whenNew, box->lineEdit());
+  return box;
+}
+
+void Controls::tie(platform::TextField& control, const QString& help, PendingEdit::Commits commits,
+                   QLineEdit* field) {
   describe(field, control, help);
   field->setMaxLength(std::numeric_limits<int>::max());
   const auto store = [&control](const QString& text) { control.setStringValue(fromQString(text)); };
@@ -187,7 +209,6 @@ QLineEdit* Controls::lineEdit(platform::TextField& control, const QString& help,
     }
     pending->settle();
   });
-  return field;
 }
 
 QLineEdit* Controls::pathField(platform::TextField& control, const QString& help) {

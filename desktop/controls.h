@@ -41,6 +41,9 @@ class Controls {
   QAction* menuEntry(platform::Button& control, const QString& text, QObject* parent);
   QLineEdit* lineEdit(platform::TextField& control, const QString& help,
                       PendingEdit::Commits commits = PendingEdit::Commits::whenNew);
+  /// A field with numbers to choose from, which are put into it as if they had been typed.
+  QComboBox* lineEditWithChoices(platform::TextField& control, const QString& help,
+                                 const QStringList& choices);
   /// A field of a path, on which a file can be dropped.
   QLineEdit* pathField(platform::TextField& control, const QString& help);
   QComboBox* comboBox(platform::ComboBox& control, const QString& help);
@@ -62,6 +65,8 @@ class Controls {
   template <typename ButtonWidget>
   ButtonWidget* checkable(platform::Button& control, const QString& text, const QString& help);
 
+  void tie(platform::TextField& control, const QString& help, PendingEdit::Commits commits,
+           QLineEdit* field);
   template <typename Show>
   void attach(platform::Control& control, const QObject* widget, Show show);
   PendingEdit* pendingEdit(QLineEdit* field, platform::TextField& control,

@@ -11,27 +11,24 @@
 namespace desktop {
 
 CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folder, Edits& edits,
-                         QWidget* parent)
+                         AddToList add, QWidget* parent)
     : QDialog(parent),
       controller_(host.output, host.panels, folder),
       controls_(edits),
-      folderNote_(new StatusLine) {
+      folderNote_(new StatusLine),
+      add_(std::move(add)) {
   setObjectName(QLatin1String("createSheet"));
   setWindowTitle(tr("New Blank Image"));
   setWindowModality(Qt::WindowModal);
   setAttribute(Qt::WA_DeleteOnClose);
 
   auto* const form = new QFormLayout;
-  const QString nameHelp = tr("The name of the image file, without \".dsk\".");
-  const QString sizeHelp = tr("The size in megabytes. 100 if this is no whole number.");
+  const QString nameHelp = tr("The name of the disk image, without \".dsk\".");
   QLineEdit* const name =
       controls_.lineEdit(controller_.createName, nameHelp, PendingEdit::Commits::always);
   name->setAccessibleName(tr("Name"));
   form->addRow(tr("&Name:"), name);
-  QLineEdit* const size = controls_.lineEdit(controller_.createSize, sizeHelp);
-  size->setAccessibleName(tr("Size in megabytes"));
-  size->setPlaceholderText(QLatin1String("100"));
-  form->addRow(tr("&Size (MB):"), size);
+  addSize(*form);
   addFolder(*form);
 
   QPushButton* const create = controls_.pushButton(
@@ -43,6 +40,7 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
   connect(closing, &QPushButton::clicked, this, &QDialog::close);
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
+  buttons->addWidget(addButton());
   buttons->addWidget(closing);
   buttons->addWidget(create);
 
@@ -57,9 +55,39 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
   controller_.viewWillAppear();
 }
 
+void CreateSheet::addSize(QFormLayout& form) {
+  QComboBox* const box = controls_.lineEditWithChoices(
+      controller_.createSize, tr("The size in megabytes. 100 if this is no whole number."),
+      {"20", "100", "500", "1000", "2000"});
+  for (QWidget* const named :
+       {static_cast<QWidget*>(box), static_cast<QWidget*>(box->lineEdit())}) {
+    named->setAccessibleName(tr("Size in megabytes"));
+  }
+  box->lineEdit()->setPlaceholderText(QLatin1String("100"));
+  form.addRow(tr("&Size (MB):"), box);
+}
+
+// Seen once there is something to add. The panel that it leads to would go with this sheet if it
+// were opened before this sheet is gone.
+QPushButton* CreateSheet::addButton() {
+  QPushButton* const button =
+      controls_.pushButton(controller_.addToList, tr("Add to the L&ist…"),
+                           tr("Closes this sheet and opens Add… at the new disk image."));
+  button->setAutoDefault(false);
+  addShown_ = controller_.addToList.attach([this, button] {
+    button->setEnabled(controller_.addToList.isEnabled());
+    button->setVisible(controller_.addToList.isEnabled());
+  });
+  controller_.add = [this](const std::string& path) {
+    connect(this, &QObject::destroyed, parentWidget(), [add = add_, path] { add(path); });
+    close();
+  };
+  return button;
+}
+
 void CreateSheet::addFolder(QFormLayout& form) {
   QLineEdit* const path =
-      controls_.lineEdit(controller_.imageFolder, tr("The folder that the image file goes to."));
+      controls_.lineEdit(controller_.imageFolder, tr("The folder that the disk image goes to."));
   path->setAccessibleName(tr("Folder"));
   QPushButton* const choose =
       controls_.pushButton(controller_.chooseImageFolder, tr("C&hoose…"),

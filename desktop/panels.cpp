@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -160,6 +161,9 @@ std::unique_ptr<QFileDialog> Panels::prepare(const platform::OpenPanel& panel) {
     dialog->setDirectory(toQString(panel.directory));
   } else {
     dialog->setDirectory(folder_->isEmpty() ? QDir::homePath() : *folder_);
+  }
+  if (!panel.chosenFile.empty()) {  // in a folder of its own
+    dialog->selectFile(QFile::decodeName(QByteArray::fromStdString(panel.chosenFile)));
   }
   QObject::connect(dialog.get(), &QFileDialog::fileSelected,
                    [folder = folder_](const QString& file) { *folder = QFileInfo(file).path(); });

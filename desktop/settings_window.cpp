@@ -383,7 +383,8 @@ void SettingsWindow::openAgreement() {
 }
 
 void SettingsWindow::openCreation() {
-  (new CreateSheet(host_, imageFolder_, controls_.edits(), this))->open();
+  const auto add = [this](const std::string& path) { controller_.volumes.chooseFiles(path); };
+  (new CreateSheet(host_, imageFolder_, controls_.edits(), add, this))->open();
 }
 
 void SettingsWindow::tellAbout() {

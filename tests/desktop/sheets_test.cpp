@@ -37,6 +37,39 @@ TEST_F(Sheets, LeavingTheNameEmptyIsTold) {
   EXPECT_EQ(status(), "Status: You need to enter a name!");
 }
 
+TEST_F(Sheets, ANewImageIsAddedWhereThePersonWantsIt) {
+  open();
+  click("bitCreate");
+  EXPECT_FALSE(find("addToList")->isVisible()) << "there is nothing to add yet";
+  typeInto("createName", "fresh");
+  find<QComboBox>("createSizes")->setFocus();
+  key(Qt::Key_Down);  // to the first of the sizes
+  EXPECT_EQ(find<QLineEdit>("createSize")->text(), QLatin1String("20"));
+  click("createImage");
+  EXPECT_TRUE(status().ends_with("- 20 MB Done!")) << status();
+  const QPointer<QWidget> sheet = find("createSheet");
+  click("addToList");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sheet.isNull(); }));
+  EXPECT_EQ(fake.panels.shown, "sheet Select a volume");
+  EXPECT_TRUE(fake.panels.open.chosenFile.ends_with("/fresh.dsk"));
+  EXPECT_EQ(controller->volumes.volumes().size(), 0) << "it is not added by itself";
+}
+
+TEST_F(Sheets, APanelHasAFileChosenFromTheBeginning) {
+  open();
+  desktop::Panels panels;
+  panels.setWindow(&*window, &window->memory().folder);
+  const std::string image = fake.home.write("fresh.dsk", "");
+  platform::OpenPanel panel;
+  panel.chosenFile = image;
+  std::vector<platform::Location> chosen;
+  panels.beginSheet(panel, [&](const auto& files) { chosen = files; });
+  QTest::qWait(50);
+  key(Qt::Key_Return);
+  ASSERT_EQ(chosen.size(), 1);
+  EXPECT_EQ(chosen.front().path(), image);
+}
+
 TEST_F(Sheets, PressingBrowseAgainRaisesTheSameChooser) {
   open();
   desktop::Panels panels;
