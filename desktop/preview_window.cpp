@@ -83,8 +83,9 @@ PreviewWindow::PreviewWindow(const editor::ViewController& controller, QWidget* 
   if (place && place->isFile()) {
     std::error_code error;
     now = platform::readTextFile(place->path(), error);
-    problem = error == std::errc::no_such_file_or_directory
-                  ? tr("There is no file yet.")
+    problem = error == std::errc::no_such_file_or_directory ? tr("There is no file yet.")
+              : error == std::errc::illegal_byte_sequence
+                  ? tr("The file is not UTF-8 text.")
                   : tr("The file cannot be read: %1").arg(toQString(error.message()));
   }
   const std::string after = controller.textToSave();
