@@ -1,34 +1,16 @@
 #include "desktop/checks_view.h"
 
 #include <QEvent>
-#include <QRubberBand>
-#include <QScrollArea>
 #include <QTabBar>
-#include <QTimer>
 #include <algorithm>
 #include <map>
 #include <utility>
 
 #include "desktop/checks_texts.h"
+#include "desktop/lead_to.h"
 #include "desktop/texts.h"
 
 namespace desktop {
-namespace {
-
-constexpr int momentShown = 1500;  // milliseconds
-
-// A frame around the widget for a moment.
-void pointOut(QWidget* widget) {
-  auto* const frame = new QRubberBand(QRubberBand::Rectangle, widget->parentWidget());
-  frame->setObjectName(QLatin1String("checksFrame"));
-  constexpr int distance = 3;  // pixels
-  frame->setGeometry(widget->geometry().adjusted(-distance, -distance, distance, distance));
-  frame->show();
-  QTimer::singleShot(momentShown, frame, &QObject::deleteLater);
-}
-
-}  // namespace
-
 ChecksView::ChecksView(const editor::ViewController& controller, FactsSource source, Window window)
     : window_(std::move(window)), runner_(controller, std::move(source)) {
   connect(&runner_, &ChecksRunner::changed, this, &ChecksView::show);
@@ -82,19 +64,10 @@ QWidget* ChecksView::widgetOf(const checks::Subject& subject) const {
   return window_.fileField;
 }
 
-int ChecksView::tabOf(const QWidget* widget) const {
-  for (int index = 0; index < window_.tabs->count(); ++index) {
-    if (window_.tabs->widget(index)->isAncestorOf(widget)) {
-      return index;
-    }
-  }
-  return -1;
-}
-
 void ChecksView::markTabs() {
   std::map<int, const checks::Finding*> gravest;
   for (const checks::Finding& finding : runner_.findings()) {
-    gravest.try_emplace(tabOf(widgetOf(finding.subject)), &finding);
+    gravest.try_emplace(tabOf(*window_.tabs, widgetOf(finding.subject)), &finding);
   }
   for (int index = 0; index < window_.tabs->count(); ++index) {
     const auto found = gravest.find(index);
@@ -139,18 +112,12 @@ void ChecksView::openList() {
 void ChecksView::go(const checks::Finding& finding) {
   const bool isElsewhere = finding.subject == checks::Subject(checks::Place::quillon);
   QWidget* const widget = isElsewhere ? window_.showLocation() : widgetOf(finding.subject);
-  if (const int tab = tabOf(widget); tab >= 0) {
-    window_.tabs->setCurrentIndex(tab);
-    qobject_cast<QScrollArea*>(window_.tabs->widget(tab))->ensureWidgetVisible(widget);
-  }
-  widget->window()->activateWindow();
-  widget->setFocus(Qt::ShortcutFocusReason);
+  leadTo(*window_.tabs, widget);
   if (finding.image) {
     const QModelIndex row = window_.volumes->model()->index(static_cast<int>(*finding.image), 0);
     window_.volumes->setCurrentIndex(row);
     window_.volumes->scrollTo(row);
   }
-  pointOut(widget);
 }
 
 }  // namespace desktop

@@ -57,7 +57,6 @@ class ChecksView : public QObject {
   void openList();
   void go(const checks::Finding& finding);
   [[nodiscard]] QWidget* widgetOf(const checks::Subject& subject) const;
-  [[nodiscard]] int tabOf(const QWidget* widget) const;
 
   Window window_;
   ChecksRunner runner_;

@@ -1,21 +1,19 @@
 #include "desktop/find_field.h"
 
-#include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QStandardItemModel>
+#include <QListView>
 #include <algorithm>
 #include <utility>
+
+#include "desktop/search_hits.h"
 
 namespace desktop {
 namespace {
 
-constexpr int searchedRole = Qt::UserRole;
-constexpr int placeRole = Qt::UserRole + 1;
-
-// Matches all that is known of a setting, and shows its name.
-class SettingCompleter : public QCompleter {
+// Shows the name of a hit, though it matches the text that was searched for.
+class HitCompleter : public QCompleter {
  public:
   using QCompleter::QCompleter;
 
@@ -26,23 +24,22 @@ class SettingCompleter : public QCompleter {
 
 }  // namespace
 
-FindField::FindField(const SettingWidgets& settingWidgets,
-                     std::function<QString(const SettingWidget&)> tabOf,
-                     std::function<void(const SettingWidget&)> go)
-    : settingWidgets_(settingWidgets), tabOf_(std::move(tabOf)), go_(std::move(go)) {
+FindField::FindField(std::function<SearchIndex()> collect) : collect_(std::move(collect)) {
   setObjectName(QLatin1String("findSetting"));
   setPlaceholderText(tr("Find a setting (Ctrl+F)"));
   setAccessibleName(tr("Find a setting"));
-  setToolTip(tr("Type a word of a setting's name, its key or its help."));
+  setToolTip(tr("Type words of a setting, of a choice that it offers, or of a disk image."));
   setWhatsThis(toolTip());
   setAccessibleDescription(toolTip());
   // Measuring the text itself would take longer than all else here.
   const int letters = static_cast<int>(placeholderText().size());
   setFixedWidth(letters * fontMetrics().averageCharWidth() + 3 * fontMetrics().height());
+  // QLineEdit asks its completer only after this.
+  connect(this, &QLineEdit::textEdited, this, &FindField::search);
   connect(this, &QLineEdit::returnPressed, this, [this] {
     if (completer() != nullptr && !completer()->popup()->currentIndex().isValid()) {
-      completer()->setCompletionPrefix(text());
-      goTo(completer()->completionModel()->index(0, 0));
+      search();
+      goTo(hits_->index(0, 0));
     }
   });
 }
@@ -53,10 +50,10 @@ void FindField::focusInEvent(QFocusEvent* event) {
     buildList();
     setClearButtonEnabled(true);
   }
-  nameHits();
   QLineEdit::focusInEvent(event);
   // A list that closes gives the focus back: what comes next goes on with the word.
   if (event->reason() != Qt::PopupFocusReason) {
+    index_.reset();
     selectAll();
   }
 }
@@ -89,46 +86,41 @@ void FindField::keyPressEvent(QKeyEvent* event) {
 }
 
 void FindField::buildList() {
-  hits_ = new QStandardItemModel(this);
-  for (std::size_t place = 0; place < settingWidgets_.size(); ++place) {
-    const SettingWidget& entry = settingWidgets_[place];
-    auto* const item = new QStandardItem;
-    item->setData(entry.title + QLatin1Char('\n') + entry.widget->whatsThis(), searchedRole);
-    item->setData(static_cast<qulonglong>(place), placeRole);
-    hits_->appendRow(item);
-  }
-  auto* const list = new SettingCompleter(hits_, this);
-  list->setCompletionRole(searchedRole);
+  hits_ = new SearchHits(this);
+  auto* const list = new HitCompleter(hits_, this);
+  // What is in the list matches already: QCompleter is given no way to leave any of it out.
+  list->setCompletionRole(SearchHits::searchedRole);
   list->setFilterMode(Qt::MatchContains);
-  list->setCaseSensitivity(Qt::CaseInsensitive);
   list->setMaxVisibleItems(12);
+  auto* const rows = qobject_cast<QListView*>(list->popup());
+  rows->setUniformItemSizes(true);
+  rows->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  rows->setItemDelegate(new SearchHitDelegate(rows));
+  rows->setAccessibleName(tr("What was found"));
+  constexpr int letters = 64;
+  rows->setMinimumWidth(std::min(letters * fontMetrics().averageCharWidth(), window()->width()));
   setCompleter(list);
   // Not to a slot of the field: Qt cuts those off when the field loses the focus.
   connect(list, qOverload<const QModelIndex&>(&QCompleter::activated), list,
           [this](const QModelIndex& hit) { goTo(hit); });
 }
 
-// A setting that is disabled says what comes first.
-void FindField::nameHits() {
-  int width = 0;
-  for (int row = 0; row < hits_->rowCount(); ++row) {
-    const SettingWidget& entry = settingWidgets_[static_cast<std::size_t>(row)];
-    QString name = tr("%1 — %2").arg(entry.title, tabOf_(entry));
-    if (const SettingWidget* const enabler = enablerOf(entry, settingWidgets_)) {
-      name = tr("%1 (turn on \"%2\" first)").arg(name, enabler->title);
+void FindField::search() {
+  if (hits_ != nullptr) {
+    if (!index_) {
+      index_ = collect_();
     }
-    hits_->item(row)->setText(name);
-    width = std::max(width, fontMetrics().horizontalAdvance(name));
+    hits_->show(*index_, text());
   }
-  completer()->popup()->setMinimumWidth(width + 2 * fontMetrics().height());
 }
 
 void FindField::goTo(const QModelIndex& hit) {
-  if (hit.isValid()) {
-    const SettingWidget& place = settingWidgets_.at(hit.data(placeRole).toULongLong());
+  const QVariant entry = hit.data(SearchHits::entryRole);
+  if (entry.isValid()) {
+    const std::function<void()> go = index_->at(entry.toULongLong()).go;
     // After the completer has put the name of the hit here.
     QMetaObject::invokeMethod(this, &QLineEdit::clear, Qt::QueuedConnection);
-    go_(place);
+    go();
   }
 }
 

@@ -2,24 +2,24 @@
 
 #include <QLineEdit>
 #include <functional>
+#include <optional>
 
-#include "desktop/setting_widgets.h"
+#include "desktop/search_index.h"
 
 class QCompleter;
-class QStandardItemModel;
 
 namespace desktop {
 
-/// Finds a setting by words of its label, its key or its help. Return goes to the one picked, or to
-/// the first.
+class SearchHits;
+
+/// Finds settings, disk images and other places of the program by words. Return goes to the hit
+/// that is picked, or to the first.
 class FindField : public QLineEdit {
   Q_OBJECT
 
  public:
-  /// `tabOf` names the tab of a setting; `go` shows one and gives it the focus.
-  FindField(const SettingWidgets& settingWidgets,
-            std::function<QString(const SettingWidget&)> tabOf,
-            std::function<void(const SettingWidget&)> go);
+  /// `collect` is asked for what can be found, each time that somebody begins to search.
+  explicit FindField(std::function<SearchIndex()> collect);
 
  protected:
   bool event(QEvent* event) override;
@@ -29,13 +29,12 @@ class FindField : public QLineEdit {
  private:
   [[nodiscard]] bool hasOpenList() const;
   void buildList();
-  void nameHits();
+  void search();
   void goTo(const QModelIndex& hit);
 
-  const SettingWidgets& settingWidgets_;
-  QStandardItemModel* hits_ = nullptr;  // a row for each setting
-  std::function<QString(const SettingWidget&)> tabOf_;
-  std::function<void(const SettingWidget&)> go_;
+  std::function<SearchIndex()> collect_;
+  std::optional<SearchIndex> index_;
+  SearchHits* hits_ = nullptr;
 };
 
 }  // namespace desktop

@@ -10,6 +10,8 @@ Menus::Menus(editor::ViewController& controller, Controls& controls, const Opene
     : controls_(controls) {
   addFile(controller, openers);
   QMenu* const edit = addMenu(tr("&Edit"));
+  add(edit, tr("&Find a Setting…"), QKeySequence(Qt::CTRL | Qt::Key_F), openers.find)
+      ->setObjectName(QLatin1String("findAction"));
   add(edit, tr("&Reset This Page"), {}, openers.resetPage)
       ->setObjectName(QLatin1String("resetPage"));
   edit->addSeparator();
@@ -48,7 +50,7 @@ void Menus::addFile(editor::ViewController& controller, const Openers& openers) 
   file->addSeparator();
   addButton(file, controller.bitCreate, tr("&New Blank Image…"),
             QKeySequence(Qt::CTRL | Qt::Key_N));
-  addButton(file, controller.volumes.browseFile, tr("&Add Volume…"),
+  addButton(file, controller.volumes.browseFile, tr("&Add Disk Image…"),
             QKeySequence(Qt::CTRL | Qt::Key_O));
   file->addSeparator();
   addButton(file, controller.isQuit, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
@@ -57,8 +59,12 @@ void Menus::addFile(editor::ViewController& controller, const Openers& openers) 
 void Menus::addPresets(editor::Presets& presets) {
   QMenu* const menu = addMenu(tr("&Presets"));
   menu->setObjectName(QLatin1String("presetsMenu"));
+  menu->setToolTipsVisible(true);
   for (platform::Button& item : presets.presetsMenu) {
-    menu->addAction(controls_.menuEntry(item, toQString(item.title()), menu));
+    QAction* const entry = controls_.menuEntry(item, toQString(item.title()), menu);
+    entry->setToolTip(tr(
+        "A mark for yourself while the window is open. It changes no setting and is not saved."));
+    menu->addAction(entry);
   }
 }
 

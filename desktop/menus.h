@@ -21,6 +21,7 @@ class Menus : public QMenuBar {
     std::function<void()> diagnostics;
     std::function<void()> agreement;
     std::function<void()> about;
+    std::function<void()> find;
   };
 
   Menus(editor::ViewController& controller, Controls& controls, const Openers& openers);

@@ -17,6 +17,7 @@
 
 #include "desktop/agreement_sheet.h"
 #include "desktop/create_sheet.h"
+#include "desktop/lead_to.h"
 #include "desktop/pages.h"
 #include "desktop/preview_window.h"
 #include "desktop/texts.h"
@@ -295,16 +296,14 @@ QWidget* SettingsWindow::topRow() {
   auto* const layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(0);
-  menus_ = new Menus(
-      controller_, controls_,
-      {[this] { openPreview(); }, [this] { openPreferences(); }, [this] { resetPage(); },
-       [this] { openDiagnostics(); }, [this] { openAgreement(); }, [this] { tellAbout(); }});
+  menus_ =
+      new Menus(controller_, controls_,
+                {[this] { openPreview(); }, [this] { openPreferences(); }, [this] { resetPage(); },
+                 [this] { openDiagnostics(); }, [this] { openAgreement(); },
+                 [this] { tellAbout(); }, [this] { startSearch(); }});
   layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
-  find_ = new FindField(
-      settingWidgets_,
-      [this](const SettingWidget& place) { return plainText(tabs_->tabText(tabOf(place))); },
-      [this](const SettingWidget& place) { goTo(place); });
+  find_ = new FindField([this] { return searchable(); });
   layout->addWidget(find_);
   // A spacing changes sides with the reading direction; a contents margin does not.
   layout->addSpacing(style()->pixelMetric(QStyle::PM_LayoutRightMargin));
@@ -313,11 +312,6 @@ QWidget* SettingsWindow::topRow() {
 }
 
 void SettingsWindow::buildShortcuts() {
-  const auto* const search = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F), this);
-  connect(search, &QShortcut::activated, find_, [this] {
-    completePages();
-    find_->setFocus(Qt::ShortcutFocusReason);
-  });
   for (int number = 1; number <= static_cast<int>(pages_.size()); ++number) {
     auto* const shortcut = new QShortcut(Qt::ALT | static_cast<Qt::Key>(Qt::Key_0 + number), this);
     connect(shortcut, &QShortcut::activated, this, [this, number] {
@@ -329,23 +323,23 @@ void SettingsWindow::buildShortcuts() {
   }
 }
 
-int SettingsWindow::tabOf(const SettingWidget& place) const {
-  for (int index = 0; index < tabs_->count(); ++index) {
-    if (tabs_->widget(index)->isAncestorOf(place.widget)) {
-      return index;
-    }
-  }
-  return -1;
+void SettingsWindow::startSearch() {
+  find_->setFocus(Qt::ShortcutFocusReason);
+  find_->selectAll();
 }
 
-void SettingsWindow::goTo(const SettingWidget& place) {
-  const SettingWidget* const enabler = enablerOf(place, settingWidgets_);
-  const SettingWidget& target = enabler != nullptr ? *enabler : place;
-  tabs_->setCurrentIndex(tabOf(target));
-  target.widget->setFocus(Qt::ShortcutFocusReason);
-  if (enabler != nullptr) {
-    help_->tell(tr(R"("%1" is disabled. Turn on "%2" first.)").arg(place.title, target.title));
+SearchIndex SettingsWindow::searchable() {
+  completePages();
+  if (!searchPlaces_) {
+    const auto openedPreferences = [this]() -> QWidget* {
+      openPreferences();
+      return preferences_;
+    };
+    searchPlaces_.emplace(SearchPlaces::Window{
+        *tabs_, settingWidgets_, *help_, *findChild<VolumeView*>(),
+        *findChild<QWidget*>(toQString(controller_.tabs.scsiID0.name())), openedPreferences});
   }
+  return searchPlaces_->collect();
 }
 
 // As a save would, it takes in first what is being typed.
@@ -358,7 +352,7 @@ void SettingsWindow::openPreview() {
 void SettingsWindow::resetPage() {
   controls_.edits().endEditing();
   for (const SettingWidget& place : settingWidgets_) {
-    if (tabOf(place) == tabs_->currentIndex() && !place.setting->isDefault()) {
+    if (tabOf(*tabs_, place.widget) == tabs_->currentIndex() && !place.setting->isDefault()) {
       place.setting->reset();
     }
   }

@@ -15,6 +15,7 @@
 #include "desktop/help_line.h"
 #include "desktop/menus.h"
 #include "desktop/preferences_window.h"
+#include "desktop/search_places.h"
 #include "desktop/setting_widgets.h"
 #include "desktop/state_watch.h"
 #include "desktop/window_memory.h"
@@ -59,8 +60,8 @@ class SettingsWindow : public QMainWindow {
   [[nodiscard]] QLayout* buttonRow();
   [[nodiscard]] ChecksView::Window checkedWindow(ChecksLine* line);
   void showTabs();
-  void goTo(const SettingWidget& place);
-  [[nodiscard]] int tabOf(const SettingWidget& place) const;
+  [[nodiscard]] SearchIndex searchable();
+  void startSearch();
   void showStart(QPushButton* button);
   void showIcon() const;
   void openPreview();
@@ -82,6 +83,7 @@ class SettingsWindow : public QMainWindow {
   HelpLine* help_;
   Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
+  std::optional<SearchPlaces> searchPlaces_;  // when somebody has searched
   QPointer<PreferencesWindow> preferences_;
   QPointer<DiagnosticsWindow> diagnostics_;
   std::array<QScrollArea*, editor::tabCount> pages_{};

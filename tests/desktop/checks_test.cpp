@@ -57,7 +57,7 @@ TEST_F(Checks, EachFindingLeadsToItsControl) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return widget->accessibleDescription().contains(finding); }));
     goToFirst();
     EXPECT_TRUE(QTest::qWaitFor([&] { return widget->hasFocus(); }));
-    EXPECT_TRUE(find("checksFrame")->isVisible());
+    EXPECT_TRUE(find("pointedOut")->isVisible());
     const int row = find<QAbstractItemView>("tableView")->currentIndex().row();
     EXPECT_EQ(row >= 0 ? std::to_string(row + 1) : "", each["row"]);
     EXPECT_EQ(tabs()->tabBar()->accessibleTabName(tabs()->currentIndex()).toStdString(),

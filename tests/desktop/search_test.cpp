@@ -2,6 +2,7 @@
 #include <QCompleter>
 #include <QLabel>
 
+#include "desktop/search_index.h"
 #include "tests/desktop/window_fixture.h"
 #include "tests/support/data.h"
 
@@ -17,6 +18,14 @@ class Search : public tests::WindowTest {
     }
   }
   QLineEdit* field() const { return find<QLineEdit>("findSetting"); }
+  QStringList hits() const {
+    QStringList texts;
+    const auto* const rows = field()->completer()->completionModel();
+    for (int row = 0; row < rows->rowCount(); ++row) {
+      texts.append(rows->index(row, 0).data().toString());
+    }
+    return texts;
+  }
 
   void expectWentTo(const char* name) const {
     EXPECT_TRUE(QTest::qWaitFor([&] { return field()->text().isEmpty(); }));
@@ -32,8 +41,58 @@ TEST_F(Search, FindsASettingByItsNameItsKeyAndItsHelp) {
     key(Qt::Key_Return);
     expectWentTo(each["found"].c_str());
   }
-  search("fullscreen");
-  EXPECT_EQ(field()->text(), QLatin1String("fullscreen")) << "nothing matches that";
+}
+
+TEST_F(Search, KeepsWhatIsTypedWhereNothingMatches) {
+  open();
+  search("xyzzy");
+  EXPECT_EQ(hits(), QStringList("Nothing found for \"xyzzy\"."));
+  key(Qt::Key_Return);
+  EXPECT_EQ(field()->text(), QLatin1String("xyzzy"));
+}
+
+TEST_F(Search, TheBestHitIsTheFirst) {
+  open("disk /images/Games.hfv\n");
+  struct Row {
+    const char* typed;
+    const char* first;
+  };
+  for (const auto& [typed, first] : std::initializer_list<Row>{
+           {.typed = "ram", .first = "RAM size (MB) — Machine"},
+           {.typed = "hz", .first = "Refresh rate — Display: 60 Hz"},
+           {.typed = "68040", .first = "Processor (CPU) — Machine: 68040"},
+           {.typed = "fullscreen", .first = "Screen mode — Display: fullscreen"},
+           {.typed = "full screen", .first = "Screen mode — Display: Full screen"},
+           {.typed = "memory", .first = "RAM size (MB) — Machine: memory"},
+           {.typed = "internet", .first = "Network device — Network: internet"},
+           {.typed = "games", .first = "Games.hfv — Disk images"},
+           {.typed = "HARD DISK", .first = "Disk images — Volumes: hard disk"},
+           {.typed = "quit", .first = "Quit after Start — Preferences window"},
+           {.typed = "scsi", .first = "Show the SCSI tab — Preferences window"},
+           {.typed = "where quillon", .first = "Where Quillon is — Preferences window"}}) {
+    search(typed);
+    EXPECT_EQ(hits().value(0).toStdString(), first) << typed;
+    key(Qt::Key_Escape);
+  }
+}
+
+TEST_F(Search, WhatWasTypedIsFoundInTheHit) {
+  using Part = std::pair<qsizetype, qsizetype>;
+  EXPECT_EQ(desktop::foundParts("Program of RAM", "ram"), (std::vector<Part>{{11, 3}}));
+  EXPECT_EQ(desktop::foundParts("Écran", "ecr"), (std::vector<Part>{{0, 3}}));
+}
+
+TEST_F(Search, LeadsToImagesAndToThePreferences) {
+  open("disk /images/a\ndisk /images/b\n");
+  showTab("JIT");
+  search("images/b");
+  key(Qt::Key_Return);
+  EXPECT_EQ(QApplication::focusWidget(), find("tableView"));
+  EXPECT_EQ(find<QAbstractItemView>("tableView")->currentIndex().row(), 1);
+  search("quit after");
+  key(Qt::Key_Return);
+  EXPECT_EQ(QApplication::focusWidget(), find("quitOnStart"));
+  EXPECT_TRUE(find("pointedOut")->isVisible());
 }
 
 TEST_F(Search, AHitCanBePickedAnyNumberOfTimes) {
