@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>The preferences file could not be read: %1. What you see are the defaults, and saving puts them in the place of what is in the file.</source>
-        <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Vorgaben. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
+        <translation>Die Einstellungsdatei konnte nicht gelesen werden: %1. Zu sehen sind die Standardwerte. Speichern setzt sie an die Stelle dessen, was in der Datei steht.</translation>
     </message>
     <message>
         <source>The place of the preferences file names no file: no save can succeed.</source>
@@ -361,6 +361,10 @@
         <source>Rests while the Macintosh has nothing to do and saves this computer&apos;s energy.</source>
         <translation>Pausiert, solange der Macintosh nichts zu tun hat, und spart so Energie auf diesem Computer.</translation>
     </message>
+    <message>
+        <source>it is not UTF-8 text</source>
+        <translation>es ist kein UTF-8-Text</translation>
+    </message>
 </context>
 <context>
     <name>Items</name>
@@ -458,6 +462,156 @@
     <message>
         <source>Choose the ROM File</source>
         <translation>ROM-Datei wählen</translation>
+    </message>
+</context>
+<context>
+    <name>Search</name>
+    <message>
+        <source>exchange files, host folder, share</source>
+        <translation>Dateien austauschen, Freigabe, Wirtsordner</translation>
+    </message>
+    <message>
+        <source>resolution, fullscreen, window size, monitor, pixels</source>
+        <translation>Auflösung, Vollbild, Fenstergröße, Monitor, Pixel</translation>
+    </message>
+    <message>
+        <source>serial port, terminal</source>
+        <translation>serielle Schnittstelle, Terminal</translation>
+    </message>
+    <message>
+        <source>serial port, printing</source>
+        <translation>serielle Schnittstelle, drucken</translation>
+    </message>
+    <message>
+        <source>internet, Ethernet, web, TCP/IP</source>
+        <translation>Internet, Ethernet, Web, TCP/IP</translation>
+    </message>
+    <message>
+        <source>internet, AppleTalk, local network</source>
+        <translation>Internet, AppleTalk, lokales Netzwerk</translation>
+    </message>
+    <message>
+        <source>firmware, BIOS</source>
+        <translation>Firmware, BIOS</translation>
+    </message>
+    <message>
+        <source>startup disk, boot order, boot disk</source>
+        <translation>Startvolume, Bootreihenfolge, Startdiskette</translation>
+    </message>
+    <message>
+        <source>memory, megabytes</source>
+        <translation>RAM, Speicher, Megabyte</translation>
+    </message>
+    <message>
+        <source>frames per second, FPS, speed, frame skip</source>
+        <translation>Bilder pro Sekunde, FPS, Geschwindigkeit, Bildrate</translation>
+    </message>
+    <message>
+        <source>computer, machine type, Gestalt</source>
+        <translation>Computer, Rechnertyp, Gestalt</translation>
+    </message>
+    <message>
+        <source>CPU, FPU, coprocessor, Motorola</source>
+        <translation>CPU, FPU, Koprozessor, Motorola</translation>
+    </message>
+    <message>
+        <source>optical drive, CD, disc</source>
+        <translation>optisches Laufwerk, CD, Disc</translation>
+    </message>
+    <message>
+        <source>audio, mute, volume, speaker</source>
+        <translation>Audio, stumm, Lautstärke, Lautsprecher</translation>
+    </message>
+    <message>
+        <source>speed, fast, dynamic translation, recompiler</source>
+        <translation>Geschwindigkeit, schnell, dynamische Übersetzung, Recompiler</translation>
+    </message>
+    <message>
+        <source>floating point, speed</source>
+        <translation>Gleitkomma, Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>memory, speed</source>
+        <translation>Speicher, Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>keyboard layout, keymap</source>
+        <translation>Tastaturbelegung, Tastaturlayout</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling</source>
+        <translation>Scrollrad, scrollen</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling speed</source>
+        <translation>Scrollrad, Scrollgeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>audio device, sound card</source>
+        <translation>Audiogerät, Soundkarte</translation>
+    </message>
+    <message>
+        <source>audio device, sound card, loudness</source>
+        <translation>Audiogerät, Soundkarte, Lautstärke</translation>
+    </message>
+    <message>
+        <source>crash, memory errors</source>
+        <translation>Absturz, Speicherfehler</translation>
+    </message>
+    <message>
+        <source>battery, power, fan, processor load</source>
+        <translation>Akku, Strom, Lüfter, Prozessorlast</translation>
+    </message>
+    <message>
+        <source>hard disk, hard drive, floppy, diskette, volume</source>
+        <translation>Festplatte, Laufwerk, Diskette, Abbild, Volume, Datenträger</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPlaces</name>
+    <message>
+        <source>%1 (turn on &quot;%2&quot; first)</source>
+        <translation>%1 (zuerst „%2“ einschalten)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
+        <translation>„%1“ ist gesperrt. Schalten Sie zuerst „%2“ ein.</translation>
+    </message>
+    <message>
+        <source>Disk images</source>
+        <translation>Disk-Images</translation>
+    </message>
+    <message>
+        <source>SCSI ID 0</source>
+        <translation>SCSI-ID 0</translation>
+    </message>
+    <message>
+        <source>Where Quillon is</source>
+        <translation>Wo sich Quillon befindet</translation>
+    </message>
+    <message>
+        <source>location, path, emulator, Quillon.app</source>
+        <translation>Ort, Pfad, Emulator, Quillon.app</translation>
+    </message>
+    <message>
+        <source>Quit after Start</source>
+        <translation>Nach dem Starten beenden</translation>
+    </message>
+    <message>
+        <source>exit, close, end</source>
+        <translation>schließen, Ende, verlassen</translation>
+    </message>
+    <message>
+        <source>Show the SCSI tab</source>
+        <translation>SCSI-Reiter anzeigen</translation>
+    </message>
+    <message>
+        <source>bus, devices</source>
+        <translation>Bus, Geräte</translation>
+    </message>
+    <message>
+        <source>Preferences window</source>
+        <translation>Programmeinstellungen</translation>
     </message>
 </context>
 <context>
@@ -618,38 +772,6 @@
         <translation>Disk-Images</translation>
     </message>
     <message>
-        <source>The disk images of the Macintosh, in their order.</source>
-        <translation>Die Disk-Images des Macintosh in ihrer Reihenfolge.</translation>
-    </message>
-    <message>
-        <source>Disk i&amp;mages:</source>
-        <translation>Disk-I&amp;mages:</translation>
-    </message>
-    <message>
-        <source>&amp;Add…</source>
-        <translation>Hin&amp;zufügen&#xa0;…</translation>
-    </message>
-    <message>
-        <source>Adds image files to the list.</source>
-        <translation>Fügt der Liste Disk-Images hinzu.</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve</source>
-        <translation>Entfe&amp;rnen</translation>
-    </message>
-    <message>
-        <source>Takes the selected image off the list. The file stays.</source>
-        <translation>Nimmt das ausgewählte Disk-Image aus der Liste. Die Datei bleibt erhalten.</translation>
-    </message>
-    <message>
-        <source>New &amp;Blank Image…</source>
-        <translation>Ne&amp;ues leeres Disk-Image&#xa0;…</translation>
-    </message>
-    <message>
-        <source>Makes an empty disk image. It is not added to the list.</source>
-        <translation>Legt ein leeres Disk-Image an. Es wird nicht in die Liste aufgenommen.</translation>
-    </message>
-    <message>
         <source>Ch&amp;oose…</source>
         <translation>&amp;Auswählen&#xa0;…</translation>
     </message>
@@ -743,7 +865,7 @@
     </message>
     <message>
         <source>Not the default.</source>
-        <translation>Nicht die Vorgabe.</translation>
+        <translation>Nicht der Standardwert.</translation>
     </message>
     <message>
         <source>Problem: %1</source>
@@ -876,10 +998,6 @@
         <translation>Neues leeres Disk-Image</translation>
     </message>
     <message>
-        <source>The name of the image file, without &quot;.dsk&quot;.</source>
-        <translation>Der Name des Disk-Images, ohne „.dsk“.</translation>
-    </message>
-    <message>
         <source>The size in megabytes. 100 if this is no whole number.</source>
         <translation>Die Größe in Megabyte. Ist dies keine ganze Zahl, gilt 100.</translation>
     </message>
@@ -916,10 +1034,6 @@
         <translation>An&amp;halten</translation>
     </message>
     <message>
-        <source>The folder that the image file goes to.</source>
-        <translation>Der Ordner, in den das Disk-Image kommt.</translation>
-    </message>
-    <message>
         <source>Folder</source>
         <translation>Ordner</translation>
     </message>
@@ -951,6 +1065,22 @@
         <source>Only moves the indicator; making an image does not.</source>
         <translation>Bewegt nur die Anzeige; das Anlegen eines Disk-Images tut das nicht.</translation>
     </message>
+    <message>
+        <source>The name of the disk image, without &quot;.dsk&quot;.</source>
+        <translation>Der Name des Disk-Images, ohne „.dsk“.</translation>
+    </message>
+    <message>
+        <source>Add to the L&amp;ist…</source>
+        <translation>Zur &amp;Liste hinzufügen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Closes this sheet and opens Add… at the new disk image.</source>
+        <translation>Schließt dieses Fenster und öffnet „Hinzufügen&#xa0;…“ beim neuen Disk-Image.</translation>
+    </message>
+    <message>
+        <source>The folder that the disk image goes to.</source>
+        <translation>Der Ordner, in den das Disk-Image kommt.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DiagnosticsWindow</name>
@@ -980,6 +1110,29 @@
     </message>
 </context>
 <context>
+    <name>desktop::EmptyHint</name>
+    <message>
+        <source>No disk images yet.</source>
+        <translation>Noch keine Disk-Images.</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list (the key Insert does so, too).</source>
+        <translation>Fügt der Liste Disk-Images hinzu (wie die Einfügetaste).</translation>
+    </message>
+    <message>
+        <source>New Blank Image…</source>
+        <translation>Neues leeres Disk-Image&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image.</source>
+        <translation>Legt ein leeres Disk-Image an.</translation>
+    </message>
+</context>
+<context>
     <name>desktop::FindField</name>
     <message>
         <source>Find a setting (Ctrl+F)</source>
@@ -990,16 +1143,12 @@
         <translation>Einstellung suchen</translation>
     </message>
     <message>
-        <source>Type a word of a setting&apos;s name, its key or its help.</source>
-        <translation>Geben Sie ein Wort aus dem Namen, dem Schlüssel oder der Hilfe einer Einstellung ein.</translation>
+        <source>Type words of a setting, of a choice that it offers, or of a disk image.</source>
+        <translation>Geben Sie Wörter einer Einstellung, einer ihrer Auswahlmöglichkeiten oder eines Disk-Images ein.</translation>
     </message>
     <message>
-        <source>%1 — %2</source>
-        <translation>%1 – %2</translation>
-    </message>
-    <message>
-        <source>%1 (turn on &quot;%2&quot; first)</source>
-        <translation>%1 (zuerst „%2“ einschalten)</translation>
+        <source>What was found</source>
+        <translation>Fundstellen</translation>
     </message>
 </context>
 <context>
@@ -1040,10 +1189,6 @@
         <translation>Neues &amp;leeres Disk-Image&#xa0;…</translation>
     </message>
     <message>
-        <source>&amp;Add Volume…</source>
-        <translation>Disk-Image &amp;hinzufügen&#xa0;…</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>Bee&amp;nden</translation>
     </message>
@@ -1070,6 +1215,18 @@
     <message>
         <source>&amp;Diagnostics…</source>
         <translation>&amp;Diagnose&#xa0;…</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Setting…</source>
+        <translation>Einstellung &amp;suchen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Disk Image…</source>
+        <translation>Disk-Image &amp;hinzufügen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>A mark for yourself while the window is open. It changes no setting and is not saved.</source>
+        <translation>Eine Markierung für Sie selbst, solange das Fenster geöffnet ist. Sie ändert keine Einstellung und wird nicht gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -1189,6 +1346,25 @@
         <source>- will be dropped   * will be changed   + will be added</source>
         <translation>- entfällt   * wird geändert   + kommt hinzu</translation>
     </message>
+    <message>
+        <source>The file is not UTF-8 text.</source>
+        <translation>Die Datei ist kein UTF-8-Text.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SearchHits</name>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2: %3</source>
+        <translation>%1 – %2: %3</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;.</source>
+        <translation>Zu „%1“ wurde nichts gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::SettingsWindow</name>
@@ -1264,10 +1440,6 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
-        <translation>„%1“ ist gesperrt. Schalten Sie zuerst „%2“ ein.</translation>
-    </message>
 </context>
 <context>
     <name>desktop::UnsavedBar</name>
@@ -1301,10 +1473,125 @@
     </message>
 </context>
 <context>
-    <name>desktop::VolumeView</name>
+    <name>desktop::VolumeMenu</name>
     <message>
-        <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation>Noch keine Disk-Images. Mit der Einfügetaste oder „Hinzufügen&#xa0;…“ nehmen Sie eines auf.</translation>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Show in &amp;Folder</source>
+        <translation>Im Or&amp;dner anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>Pfad &amp;kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeModel</name>
+    <message>
+        <source>This file is missing.</source>
+        <translation>Diese Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>This file cannot be reached: %1</source>
+        <translation>Diese Datei ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>1 disk image</source>
+        <translation>1 Disk-Image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>%n Disk-Image</numerusform>
+            <numerusform>%n Disk-Images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing</source>
+        <translation>
+            <numerusform>%n fehlt</numerusform>
+            <numerusform>%n fehlen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeView</name>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>%n Disk-Image</numerusform>
+            <numerusform>%n Disk-Images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumesList</name>
+    <message>
+        <source>Disk images</source>
+        <translation>Disk-Images</translation>
+    </message>
+    <message>
+        <source>The disk images of the Macintosh, in their order.</source>
+        <translation>Die Disk-Images des Macintosh in ihrer Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>Disk i&amp;mages:</source>
+        <translation>Disk-I&amp;mages:</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>Hin&amp;zufügen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list.</source>
+        <translation>Fügt der Liste Disk-Images hinzu.</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>Entfe&amp;rnen</translation>
+    </message>
+    <message>
+        <source>Takes the selected disk image off the list. The file stays.</source>
+        <translation>Nimmt die ausgewählten Disk-Images aus der Liste. Die Dateien bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place up (%1).</source>
+        <translation>Schiebt die ausgewählten Disk-Images einen Platz nach oben (%1).</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach unt&amp;en</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place down (%1).</source>
+        <translation>Schiebt die ausgewählten Disk-Images einen Platz nach unten (%1).</translation>
+    </message>
+    <message>
+        <source>New &amp;Blank Image…</source>
+        <translation>Ne&amp;ues leeres Disk-Image&#xa0;…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image. It is not added to the list.</source>
+        <translation>Legt ein leeres Disk-Image an. Es wird nicht in die Liste aufgenommen.</translation>
     </message>
 </context>
 </TS>

@@ -361,6 +361,10 @@
         <source>Rests while the Macintosh has nothing to do and saves this computer&apos;s energy.</source>
         <translation>Descansa mientras el Macintosh no tiene nada que hacer y ahorra energía en este equipo.</translation>
     </message>
+    <message>
+        <source>it is not UTF-8 text</source>
+        <translation>no es texto UTF-8</translation>
+    </message>
 </context>
 <context>
     <name>Items</name>
@@ -458,6 +462,156 @@
     <message>
         <source>Choose a Folder for New Images</source>
         <translation>Elegir una carpeta para las nuevas imágenes de disco</translation>
+    </message>
+</context>
+<context>
+    <name>Search</name>
+    <message>
+        <source>exchange files, host folder, share</source>
+        <translation>intercambiar archivos, carpeta del anfitrión, compartir</translation>
+    </message>
+    <message>
+        <source>resolution, fullscreen, window size, monitor, pixels</source>
+        <translation>resolución, pantalla completa, tamaño de la ventana, monitor, píxeles</translation>
+    </message>
+    <message>
+        <source>serial port, terminal</source>
+        <translation>puerto serie, terminal</translation>
+    </message>
+    <message>
+        <source>serial port, printing</source>
+        <translation>puerto serie, imprimir</translation>
+    </message>
+    <message>
+        <source>internet, Ethernet, web, TCP/IP</source>
+        <translation>internet, Ethernet, web, TCP/IP</translation>
+    </message>
+    <message>
+        <source>internet, AppleTalk, local network</source>
+        <translation>internet, AppleTalk, red local</translation>
+    </message>
+    <message>
+        <source>firmware, BIOS</source>
+        <translation>firmware, BIOS</translation>
+    </message>
+    <message>
+        <source>startup disk, boot order, boot disk</source>
+        <translation>disco de arranque, orden de arranque</translation>
+    </message>
+    <message>
+        <source>memory, megabytes</source>
+        <translation>memoria, megabytes</translation>
+    </message>
+    <message>
+        <source>frames per second, FPS, speed, frame skip</source>
+        <translation>fotogramas por segundo, FPS, velocidad, salto de fotogramas</translation>
+    </message>
+    <message>
+        <source>computer, machine type, Gestalt</source>
+        <translation>ordenador, equipo, tipo de máquina, Gestalt</translation>
+    </message>
+    <message>
+        <source>CPU, FPU, coprocessor, Motorola</source>
+        <translation>CPU, FPU, coprocesador, Motorola</translation>
+    </message>
+    <message>
+        <source>optical drive, CD, disc</source>
+        <translation>unidad óptica, CD, disco</translation>
+    </message>
+    <message>
+        <source>audio, mute, volume, speaker</source>
+        <translation>audio, silencio, volumen, altavoz</translation>
+    </message>
+    <message>
+        <source>speed, fast, dynamic translation, recompiler</source>
+        <translation>velocidad, rápido, traducción dinámica, recompilador</translation>
+    </message>
+    <message>
+        <source>floating point, speed</source>
+        <translation>coma flotante, velocidad</translation>
+    </message>
+    <message>
+        <source>memory, speed</source>
+        <translation>memoria, velocidad</translation>
+    </message>
+    <message>
+        <source>keyboard layout, keymap</source>
+        <translation>distribución del teclado, teclado</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling</source>
+        <translation>rueda, desplazamiento</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling speed</source>
+        <translation>rueda, velocidad de desplazamiento</translation>
+    </message>
+    <message>
+        <source>audio device, sound card</source>
+        <translation>dispositivo de audio, tarjeta de sonido</translation>
+    </message>
+    <message>
+        <source>audio device, sound card, loudness</source>
+        <translation>dispositivo de audio, tarjeta de sonido, volumen</translation>
+    </message>
+    <message>
+        <source>crash, memory errors</source>
+        <translation>fallo, errores de memoria</translation>
+    </message>
+    <message>
+        <source>battery, power, fan, processor load</source>
+        <translation>batería, energía, ventilador, carga del procesador</translation>
+    </message>
+    <message>
+        <source>hard disk, hard drive, floppy, diskette, volume</source>
+        <translation>disco duro, unidad, disquete, volumen</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPlaces</name>
+    <message>
+        <source>%1 (turn on &quot;%2&quot; first)</source>
+        <translation>%1 (active antes «%2»)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
+        <translation>«%1» está desactivado. Active antes «%2».</translation>
+    </message>
+    <message>
+        <source>Disk images</source>
+        <translation>Imágenes de disco</translation>
+    </message>
+    <message>
+        <source>SCSI ID 0</source>
+        <translation>ID SCSI 0</translation>
+    </message>
+    <message>
+        <source>Where Quillon is</source>
+        <translation>Dónde está Quillon</translation>
+    </message>
+    <message>
+        <source>location, path, emulator, Quillon.app</source>
+        <translation>ubicación, ruta, emulador, Quillon.app</translation>
+    </message>
+    <message>
+        <source>Quit after Start</source>
+        <translation>Salir tras iniciar</translation>
+    </message>
+    <message>
+        <source>exit, close, end</source>
+        <translation>salir, cerrar, fin</translation>
+    </message>
+    <message>
+        <source>Show the SCSI tab</source>
+        <translation>Mostrar la pestaña SCSI</translation>
+    </message>
+    <message>
+        <source>bus, devices</source>
+        <translation>bus, dispositivos</translation>
+    </message>
+    <message>
+        <source>Preferences window</source>
+        <translation>Ventana de preferencias</translation>
     </message>
 </context>
 <context>
@@ -632,38 +786,6 @@
     <message>
         <source>Disk images</source>
         <translation>Imágenes de disco</translation>
-    </message>
-    <message>
-        <source>The disk images of the Macintosh, in their order.</source>
-        <translation>Las imágenes de disco del Macintosh, en su orden.</translation>
-    </message>
-    <message>
-        <source>Disk i&amp;mages:</source>
-        <translation>I&amp;mágenes de disco:</translation>
-    </message>
-    <message>
-        <source>&amp;Add…</source>
-        <translation>Aña&amp;dir…</translation>
-    </message>
-    <message>
-        <source>Adds image files to the list.</source>
-        <translation>Añade imágenes de disco a la lista.</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve</source>
-        <translation>&amp;Quitar</translation>
-    </message>
-    <message>
-        <source>Takes the selected image off the list. The file stays.</source>
-        <translation>Quita de la lista la imagen de disco seleccionada. El archivo se conserva.</translation>
-    </message>
-    <message>
-        <source>New &amp;Blank Image…</source>
-        <translation>Nueva imagen de disco en b&amp;lanco…</translation>
-    </message>
-    <message>
-        <source>Makes an empty disk image. It is not added to the list.</source>
-        <translation>Crea una imagen de disco vacía. No se añade a la lista.</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
@@ -876,10 +998,6 @@
         <translation>Nueva imagen de disco en blanco</translation>
     </message>
     <message>
-        <source>The name of the image file, without &quot;.dsk&quot;.</source>
-        <translation>El nombre de la imagen de disco, sin «.dsk».</translation>
-    </message>
-    <message>
         <source>The size in megabytes. 100 if this is no whole number.</source>
         <translation>El tamaño en megabytes. 100 si no es un número entero.</translation>
     </message>
@@ -906,10 +1024,6 @@
     <message>
         <source>C&amp;lose</source>
         <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
-        <source>The folder that the image file goes to.</source>
-        <translation>La carpeta en la que se crea la imagen de disco.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -951,6 +1065,22 @@
         <source>S&amp;top</source>
         <translation>&amp;Detener</translation>
     </message>
+    <message>
+        <source>The name of the disk image, without &quot;.dsk&quot;.</source>
+        <translation>El nombre de la imagen de disco, sin «.dsk».</translation>
+    </message>
+    <message>
+        <source>Add to the L&amp;ist…</source>
+        <translation>Añadir a la &amp;lista…</translation>
+    </message>
+    <message>
+        <source>Closes this sheet and opens Add… at the new disk image.</source>
+        <translation>Cierra esta ventana y abre «Añadir…» en la nueva imagen de disco.</translation>
+    </message>
+    <message>
+        <source>The folder that the disk image goes to.</source>
+        <translation>La carpeta en la que se crea la imagen de disco.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DiagnosticsWindow</name>
@@ -980,6 +1110,29 @@
     </message>
 </context>
 <context>
+    <name>desktop::EmptyHint</name>
+    <message>
+        <source>No disk images yet.</source>
+        <translation>Todavía no hay imágenes de disco.</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Añadir…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list (the key Insert does so, too).</source>
+        <translation>Añade imágenes de disco a la lista (también con la tecla Insertar).</translation>
+    </message>
+    <message>
+        <source>New Blank Image…</source>
+        <translation>Nueva imagen de disco en blanco…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image.</source>
+        <translation>Crea una imagen de disco vacía.</translation>
+    </message>
+</context>
+<context>
     <name>desktop::FindField</name>
     <message>
         <source>Find a setting (Ctrl+F)</source>
@@ -990,16 +1143,12 @@
         <translation>Buscar un ajuste</translation>
     </message>
     <message>
-        <source>Type a word of a setting&apos;s name, its key or its help.</source>
-        <translation>Escriba una palabra del nombre de un ajuste, de su clave o de su ayuda.</translation>
+        <source>Type words of a setting, of a choice that it offers, or of a disk image.</source>
+        <translation>Escriba palabras de un ajuste, de una de sus opciones o de una imagen de disco.</translation>
     </message>
     <message>
-        <source>%1 — %2</source>
-        <translation>%1 — %2</translation>
-    </message>
-    <message>
-        <source>%1 (turn on &quot;%2&quot; first)</source>
-        <translation>%1 (active antes «%2»)</translation>
+        <source>What was found</source>
+        <translation>Resultados</translation>
     </message>
 </context>
 <context>
@@ -1060,16 +1209,24 @@
         <translation>&amp;Nueva imagen de disco en blanco…</translation>
     </message>
     <message>
-        <source>&amp;Add Volume…</source>
-        <translation>Aña&amp;dir imagen de disco…</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Presets</source>
         <translation>&amp;Preajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Setting…</source>
+        <translation>&amp;Buscar un ajuste…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Disk Image…</source>
+        <translation>Aña&amp;dir imagen de disco…</translation>
+    </message>
+    <message>
+        <source>A mark for yourself while the window is open. It changes no setting and is not saved.</source>
+        <translation>Una marca para usted mientras la ventana está abierta. No cambia ningún ajuste y no se guarda.</translation>
     </message>
 </context>
 <context>
@@ -1189,6 +1346,25 @@
         <source>- will be dropped   * will be changed   + will be added</source>
         <translation>- se eliminará   * se cambiará   + se añadirá</translation>
     </message>
+    <message>
+        <source>The file is not UTF-8 text.</source>
+        <translation>El archivo no es texto UTF-8.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SearchHits</name>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2: %3</source>
+        <translation>%1 — %2: %3</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;.</source>
+        <translation>No se encontró nada para «%1».</translation>
+    </message>
 </context>
 <context>
     <name>desktop::SettingsWindow</name>
@@ -1257,10 +1433,6 @@
         <translation>«Iniciar» está desactivado: indique dónde está Quillon en «Editar &gt; Preferencias».</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
-        <translation>«%1» está desactivado. Active antes «%2».</translation>
-    </message>
-    <message>
         <source>About Quillon Settings</source>
         <translation>Acerca de Ajustes de Quillon</translation>
     </message>
@@ -1301,10 +1473,125 @@
     </message>
 </context>
 <context>
-    <name>desktop::VolumeView</name>
+    <name>desktop::VolumeMenu</name>
     <message>
-        <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation>Todavía no hay imágenes de disco. Pulse Insertar o el botón «Añadir…» para añadir una.</translation>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Show in &amp;Folder</source>
+        <translation>&amp;Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>&amp;Copiar la ruta</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeModel</name>
+    <message>
+        <source>This file is missing.</source>
+        <translation>Falta este archivo.</translation>
+    </message>
+    <message>
+        <source>This file cannot be reached: %1</source>
+        <translation>No se puede acceder a este archivo: %1</translation>
+    </message>
+    <message>
+        <source>1 disk image</source>
+        <translation>1 imagen de disco</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>%n imagen de disco</numerusform>
+            <numerusform>%n imágenes de disco</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing</source>
+        <translation>
+            <numerusform>falta %n</numerusform>
+            <numerusform>faltan %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeView</name>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>%n imagen de disco</numerusform>
+            <numerusform>%n imágenes de disco</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumesList</name>
+    <message>
+        <source>Disk images</source>
+        <translation>Imágenes de disco</translation>
+    </message>
+    <message>
+        <source>The disk images of the Macintosh, in their order.</source>
+        <translation>Las imágenes de disco del Macintosh, en su orden.</translation>
+    </message>
+    <message>
+        <source>Disk i&amp;mages:</source>
+        <translation>I&amp;mágenes de disco:</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>Aña&amp;dir…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list.</source>
+        <translation>Añade imágenes de disco a la lista.</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Takes the selected disk image off the list. The file stays.</source>
+        <translation>Quita de la lista las imágenes de disco seleccionadas. Los archivos se conservan.</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place up (%1).</source>
+        <translation>Sube un puesto las imágenes de disco seleccionadas (%1).</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place down (%1).</source>
+        <translation>Baja un puesto las imágenes de disco seleccionadas (%1).</translation>
+    </message>
+    <message>
+        <source>New &amp;Blank Image…</source>
+        <translation>Nueva imagen de disco en b&amp;lanco…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image. It is not added to the list.</source>
+        <translation>Crea una imagen de disco vacía. No se añade a la lista.</translation>
     </message>
 </context>
 </TS>

@@ -361,6 +361,10 @@
         <source>Rests while the Macintosh has nothing to do and saves this computer&apos;s energy.</source>
         <translation>Se met en veille tant que le Macintosh n’a rien à faire et économise l’énergie de cet ordinateur.</translation>
     </message>
+    <message>
+        <source>it is not UTF-8 text</source>
+        <translation>ce n’est pas du texte UTF-8</translation>
+    </message>
 </context>
 <context>
     <name>Items</name>
@@ -458,6 +462,156 @@
     <message>
         <source>Choose a Folder for New Images</source>
         <translation>Choisir un dossier pour les nouvelles images disque</translation>
+    </message>
+</context>
+<context>
+    <name>Search</name>
+    <message>
+        <source>exchange files, host folder, share</source>
+        <translation>échange de fichiers, dossier hôte, partage</translation>
+    </message>
+    <message>
+        <source>resolution, fullscreen, window size, monitor, pixels</source>
+        <translation>résolution, plein écran, taille de la fenêtre, moniteur, pixels</translation>
+    </message>
+    <message>
+        <source>serial port, terminal</source>
+        <translation>port série, terminal</translation>
+    </message>
+    <message>
+        <source>serial port, printing</source>
+        <translation>port série, impression, imprimer</translation>
+    </message>
+    <message>
+        <source>internet, Ethernet, web, TCP/IP</source>
+        <translation>internet, Ethernet, web, TCP/IP</translation>
+    </message>
+    <message>
+        <source>internet, AppleTalk, local network</source>
+        <translation>internet, AppleTalk, réseau local</translation>
+    </message>
+    <message>
+        <source>firmware, BIOS</source>
+        <translation>micrologiciel, firmware, BIOS</translation>
+    </message>
+    <message>
+        <source>startup disk, boot order, boot disk</source>
+        <translation>disque de démarrage, ordre de démarrage, amorçage</translation>
+    </message>
+    <message>
+        <source>memory, megabytes</source>
+        <translation>mémoire, mégaoctets</translation>
+    </message>
+    <message>
+        <source>frames per second, FPS, speed, frame skip</source>
+        <translation>images par seconde, FPS, vitesse, saut d’images</translation>
+    </message>
+    <message>
+        <source>computer, machine type, Gestalt</source>
+        <translation>ordinateur, type de machine, Gestalt</translation>
+    </message>
+    <message>
+        <source>CPU, FPU, coprocessor, Motorola</source>
+        <translation>CPU, FPU, coprocesseur, Motorola</translation>
+    </message>
+    <message>
+        <source>optical drive, CD, disc</source>
+        <translation>lecteur optique, CD, disque</translation>
+    </message>
+    <message>
+        <source>audio, mute, volume, speaker</source>
+        <translation>audio, muet, volume, haut-parleur</translation>
+    </message>
+    <message>
+        <source>speed, fast, dynamic translation, recompiler</source>
+        <translation>vitesse, rapide, traduction dynamique, recompilateur</translation>
+    </message>
+    <message>
+        <source>floating point, speed</source>
+        <translation>virgule flottante, vitesse</translation>
+    </message>
+    <message>
+        <source>memory, speed</source>
+        <translation>mémoire, vitesse</translation>
+    </message>
+    <message>
+        <source>keyboard layout, keymap</source>
+        <translation>disposition du clavier, clavier</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling</source>
+        <translation>molette, défilement</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling speed</source>
+        <translation>molette, vitesse de défilement</translation>
+    </message>
+    <message>
+        <source>audio device, sound card</source>
+        <translation>périphérique audio, carte son</translation>
+    </message>
+    <message>
+        <source>audio device, sound card, loudness</source>
+        <translation>périphérique audio, carte son, volume</translation>
+    </message>
+    <message>
+        <source>crash, memory errors</source>
+        <translation>plantage, erreurs de mémoire</translation>
+    </message>
+    <message>
+        <source>battery, power, fan, processor load</source>
+        <translation>batterie, énergie, ventilateur, charge du processeur</translation>
+    </message>
+    <message>
+        <source>hard disk, hard drive, floppy, diskette, volume</source>
+        <translation>disque dur, lecteur, disquette, volume</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPlaces</name>
+    <message>
+        <source>%1 (turn on &quot;%2&quot; first)</source>
+        <translation>%1 (activez d’abord «&#xa0;%2&#xa0;»)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
+        <translation>«&#xa0;%1&#xa0;» est désactivé. Activez d’abord «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Disk images</source>
+        <translation>Images disque</translation>
+    </message>
+    <message>
+        <source>SCSI ID 0</source>
+        <translation>ID SCSI 0</translation>
+    </message>
+    <message>
+        <source>Where Quillon is</source>
+        <translation>Emplacement de Quillon</translation>
+    </message>
+    <message>
+        <source>location, path, emulator, Quillon.app</source>
+        <translation>emplacement, chemin, émulateur, Quillon.app</translation>
+    </message>
+    <message>
+        <source>Quit after Start</source>
+        <translation>Quitter après le démarrage</translation>
+    </message>
+    <message>
+        <source>exit, close, end</source>
+        <translation>quitter, fermer, fin</translation>
+    </message>
+    <message>
+        <source>Show the SCSI tab</source>
+        <translation>Afficher l’onglet SCSI</translation>
+    </message>
+    <message>
+        <source>bus, devices</source>
+        <translation>bus, périphériques</translation>
+    </message>
+    <message>
+        <source>Preferences window</source>
+        <translation>Fenêtre des préférences</translation>
     </message>
 </context>
 <context>
@@ -632,38 +786,6 @@
     <message>
         <source>Disk images</source>
         <translation>Images disque</translation>
-    </message>
-    <message>
-        <source>The disk images of the Macintosh, in their order.</source>
-        <translation>Les images disque du Macintosh, dans leur ordre.</translation>
-    </message>
-    <message>
-        <source>Disk i&amp;mages:</source>
-        <translation>Ima&amp;ges disque&#xa0;:</translation>
-    </message>
-    <message>
-        <source>&amp;Add…</source>
-        <translation>A&amp;jouter…</translation>
-    </message>
-    <message>
-        <source>Adds image files to the list.</source>
-        <translation>Ajoute des images disque à la liste.</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve</source>
-        <translation>Ret&amp;irer</translation>
-    </message>
-    <message>
-        <source>Takes the selected image off the list. The file stays.</source>
-        <translation>Retire de la liste l’image disque sélectionnée. Le fichier est conservé.</translation>
-    </message>
-    <message>
-        <source>New &amp;Blank Image…</source>
-        <translation>Nouvelle image disque &amp;vierge…</translation>
-    </message>
-    <message>
-        <source>Makes an empty disk image. It is not added to the list.</source>
-        <translation>Crée une image disque vide. Elle n’est pas ajoutée à la liste.</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
@@ -876,10 +998,6 @@
         <translation>Nouvelle image disque vierge</translation>
     </message>
     <message>
-        <source>The name of the image file, without &quot;.dsk&quot;.</source>
-        <translation>Le nom de l’image disque, sans «&#xa0;.dsk&#xa0;».</translation>
-    </message>
-    <message>
         <source>The size in megabytes. 100 if this is no whole number.</source>
         <translation>La taille en mégaoctets. 100 si ce n’est pas un nombre entier.</translation>
     </message>
@@ -906,10 +1024,6 @@
     <message>
         <source>C&amp;lose</source>
         <translation>&amp;Fermer</translation>
-    </message>
-    <message>
-        <source>The folder that the image file goes to.</source>
-        <translation>Le dossier dans lequel l’image disque est placée.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -951,6 +1065,22 @@
         <source>S&amp;top</source>
         <translation>A&amp;rrêter</translation>
     </message>
+    <message>
+        <source>The name of the disk image, without &quot;.dsk&quot;.</source>
+        <translation>Le nom de l’image disque, sans «&#xa0;.dsk&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Add to the L&amp;ist…</source>
+        <translation>Aj&amp;outer à la liste…</translation>
+    </message>
+    <message>
+        <source>Closes this sheet and opens Add… at the new disk image.</source>
+        <translation>Ferme cette fenêtre et ouvre «&#xa0;Ajouter…&#xa0;» sur la nouvelle image disque.</translation>
+    </message>
+    <message>
+        <source>The folder that the disk image goes to.</source>
+        <translation>Le dossier dans lequel l’image disque est placée.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DiagnosticsWindow</name>
@@ -980,6 +1110,29 @@
     </message>
 </context>
 <context>
+    <name>desktop::EmptyHint</name>
+    <message>
+        <source>No disk images yet.</source>
+        <translation>Aucune image disque pour l’instant.</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Ajouter…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list (the key Insert does so, too).</source>
+        <translation>Ajoute des images disque à la liste (comme la touche Inser).</translation>
+    </message>
+    <message>
+        <source>New Blank Image…</source>
+        <translation>Nouvelle image disque vierge…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image.</source>
+        <translation>Crée une image disque vide.</translation>
+    </message>
+</context>
+<context>
     <name>desktop::FindField</name>
     <message>
         <source>Find a setting (Ctrl+F)</source>
@@ -990,16 +1143,12 @@
         <translation>Rechercher un réglage</translation>
     </message>
     <message>
-        <source>Type a word of a setting&apos;s name, its key or its help.</source>
-        <translation>Saisissez un mot du nom d’un réglage, de sa clé ou de son aide.</translation>
+        <source>Type words of a setting, of a choice that it offers, or of a disk image.</source>
+        <translation>Saisissez des mots d’un réglage, d’un de ses choix ou d’une image disque.</translation>
     </message>
     <message>
-        <source>%1 — %2</source>
-        <translation>%1 — %2</translation>
-    </message>
-    <message>
-        <source>%1 (turn on &quot;%2&quot; first)</source>
-        <translation>%1 (activez d’abord «&#xa0;%2&#xa0;»)</translation>
+        <source>What was found</source>
+        <translation>Résultats</translation>
     </message>
 </context>
 <context>
@@ -1060,16 +1209,24 @@
         <translation>Nouvelle image disque &amp;vierge…</translation>
     </message>
     <message>
-        <source>&amp;Add Volume…</source>
-        <translation>A&amp;jouter une image disque…</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Presets</source>
         <translation>&amp;Préréglages</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Setting…</source>
+        <translation>R&amp;echercher un réglage…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Disk Image…</source>
+        <translation>A&amp;jouter une image disque…</translation>
+    </message>
+    <message>
+        <source>A mark for yourself while the window is open. It changes no setting and is not saved.</source>
+        <translation>Un repère pour vous-même tant que la fenêtre est ouverte. Il ne change aucun réglage et n’est pas enregistré.</translation>
     </message>
 </context>
 <context>
@@ -1189,6 +1346,25 @@
         <source>- will be dropped   * will be changed   + will be added</source>
         <translation>- sera supprimé   * sera modifié   + sera ajouté</translation>
     </message>
+    <message>
+        <source>The file is not UTF-8 text.</source>
+        <translation>Le fichier n’est pas du texte UTF-8.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SearchHits</name>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2: %3</source>
+        <translation>%1 — %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;.</source>
+        <translation>Rien trouvé pour «&#xa0;%1&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>desktop::SettingsWindow</name>
@@ -1257,10 +1433,6 @@
         <translation>«&#xa0;Démarrer&#xa0;» est désactivé&#xa0;: indiquez l’emplacement de Quillon dans «&#xa0;Édition &gt; Préférences&#xa0;».</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
-        <translation>«&#xa0;%1&#xa0;» est désactivé. Activez d’abord «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
         <source>About Quillon Settings</source>
         <translation>À propos de Réglages de Quillon</translation>
     </message>
@@ -1301,10 +1473,125 @@
     </message>
 </context>
 <context>
-    <name>desktop::VolumeView</name>
+    <name>desktop::VolumeMenu</name>
     <message>
-        <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation>Aucune image disque pour l’instant. Appuyez sur Inser ou sur «&#xa0;Ajouter…&#xa0;» pour en ajouter une.</translation>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>Show in &amp;Folder</source>
+        <translation>Afficher dans le d&amp;ossier</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>&amp;Copier le chemin</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeModel</name>
+    <message>
+        <source>This file is missing.</source>
+        <translation>Ce fichier est introuvable.</translation>
+    </message>
+    <message>
+        <source>This file cannot be reached: %1</source>
+        <translation>Ce fichier est inaccessible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>1 disk image</source>
+        <translation>1 image disque</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>%n image disque</numerusform>
+            <numerusform>%n images disque</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing</source>
+        <translation>
+            <numerusform>%n introuvable</numerusform>
+            <numerusform>%n introuvables</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeView</name>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>%n image disque</numerusform>
+            <numerusform>%n images disque</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumesList</name>
+    <message>
+        <source>Disk images</source>
+        <translation>Images disque</translation>
+    </message>
+    <message>
+        <source>The disk images of the Macintosh, in their order.</source>
+        <translation>Les images disque du Macintosh, dans leur ordre.</translation>
+    </message>
+    <message>
+        <source>Disk i&amp;mages:</source>
+        <translation>Ima&amp;ges disque&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>A&amp;jouter…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list.</source>
+        <translation>Ajoute des images disque à la liste.</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>Ret&amp;irer</translation>
+    </message>
+    <message>
+        <source>Takes the selected disk image off the list. The file stays.</source>
+        <translation>Retire de la liste les images disque sélectionnées. Les fichiers sont conservés.</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place up (%1).</source>
+        <translation>Déplace les images disque sélectionnées d’un rang vers le haut (%1).</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Descend&amp;re</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place down (%1).</source>
+        <translation>Déplace les images disque sélectionnées d’un rang vers le bas (%1).</translation>
+    </message>
+    <message>
+        <source>New &amp;Blank Image…</source>
+        <translation>Nouvelle image disque &amp;vierge…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image. It is not added to the list.</source>
+        <translation>Crée une image disque vide. Elle n’est pas ajoutée à la liste.</translation>
     </message>
 </context>
 </TS>

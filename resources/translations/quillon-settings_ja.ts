@@ -361,6 +361,10 @@
         <source>Rests while the Macintosh has nothing to do and saves this computer&apos;s energy.</source>
         <translation>Macintosh が何もしていない間は休止し、このコンピューターの電力を節約します。</translation>
     </message>
+    <message>
+        <source>it is not UTF-8 text</source>
+        <translation>UTF-8 のテキストではありません</translation>
+    </message>
 </context>
 <context>
     <name>Items</name>
@@ -458,6 +462,156 @@
     <message>
         <source>Choose a Folder for New Images</source>
         <translation>新しいディスクイメージのフォルダーの選択</translation>
+    </message>
+</context>
+<context>
+    <name>Search</name>
+    <message>
+        <source>exchange files, host folder, share</source>
+        <translation>ファイル交換, ホストフォルダー, 共有</translation>
+    </message>
+    <message>
+        <source>resolution, fullscreen, window size, monitor, pixels</source>
+        <translation>解像度, フルスクリーン, ウィンドウサイズ, モニター, ピクセル</translation>
+    </message>
+    <message>
+        <source>serial port, terminal</source>
+        <translation>シリアルポート, 端末, ターミナル</translation>
+    </message>
+    <message>
+        <source>serial port, printing</source>
+        <translation>シリアルポート, 印刷</translation>
+    </message>
+    <message>
+        <source>internet, Ethernet, web, TCP/IP</source>
+        <translation>インターネット, イーサネット, Ethernet, ウェブ, TCP/IP</translation>
+    </message>
+    <message>
+        <source>internet, AppleTalk, local network</source>
+        <translation>インターネット, AppleTalk, ローカルネットワーク, LAN</translation>
+    </message>
+    <message>
+        <source>firmware, BIOS</source>
+        <translation>ファームウェア, BIOS</translation>
+    </message>
+    <message>
+        <source>startup disk, boot order, boot disk</source>
+        <translation>起動ディスク, 起動順序, ブート</translation>
+    </message>
+    <message>
+        <source>memory, megabytes</source>
+        <translation>メモリー, メモリ, メガバイト</translation>
+    </message>
+    <message>
+        <source>frames per second, FPS, speed, frame skip</source>
+        <translation>フレームレート, FPS, 速度, フレームスキップ</translation>
+    </message>
+    <message>
+        <source>computer, machine type, Gestalt</source>
+        <translation>コンピューター, 機種, Gestalt</translation>
+    </message>
+    <message>
+        <source>CPU, FPU, coprocessor, Motorola</source>
+        <translation>CPU, FPU, コプロセッサー, Motorola</translation>
+    </message>
+    <message>
+        <source>optical drive, CD, disc</source>
+        <translation>光学ドライブ, CD, ディスク</translation>
+    </message>
+    <message>
+        <source>audio, mute, volume, speaker</source>
+        <translation>オーディオ, 音声, ミュート, 消音, 音量, スピーカー</translation>
+    </message>
+    <message>
+        <source>speed, fast, dynamic translation, recompiler</source>
+        <translation>速度, 高速, 動的変換, 再コンパイル</translation>
+    </message>
+    <message>
+        <source>floating point, speed</source>
+        <translation>浮動小数点, 速度</translation>
+    </message>
+    <message>
+        <source>memory, speed</source>
+        <translation>メモリー, メモリ, 速度</translation>
+    </message>
+    <message>
+        <source>keyboard layout, keymap</source>
+        <translation>キーボード配列, キーマップ</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling</source>
+        <translation>スクロールホイール, スクロール</translation>
+    </message>
+    <message>
+        <source>scroll wheel, scrolling speed</source>
+        <translation>スクロールホイール, スクロール速度</translation>
+    </message>
+    <message>
+        <source>audio device, sound card</source>
+        <translation>オーディオデバイス, 音声, サウンドカード</translation>
+    </message>
+    <message>
+        <source>audio device, sound card, loudness</source>
+        <translation>オーディオデバイス, サウンドカード, 音量</translation>
+    </message>
+    <message>
+        <source>crash, memory errors</source>
+        <translation>クラッシュ, メモリーエラー</translation>
+    </message>
+    <message>
+        <source>battery, power, fan, processor load</source>
+        <translation>バッテリー, 電力, 省電力, ファン, 負荷</translation>
+    </message>
+    <message>
+        <source>hard disk, hard drive, floppy, diskette, volume</source>
+        <translation>ハードディスク, ドライブ, フロッピー, ディスケット, ボリューム</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPlaces</name>
+    <message>
+        <source>%1 (turn on &quot;%2&quot; first)</source>
+        <translation>%1 (先に「%2」をオンにしてください)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
+        <translation>「%1」は無効です。先に「%2」をオンにしてください。</translation>
+    </message>
+    <message>
+        <source>Disk images</source>
+        <translation>ディスクイメージ</translation>
+    </message>
+    <message>
+        <source>SCSI ID 0</source>
+        <translation>SCSI ID 0</translation>
+    </message>
+    <message>
+        <source>Where Quillon is</source>
+        <translation>Quillon の場所</translation>
+    </message>
+    <message>
+        <source>location, path, emulator, Quillon.app</source>
+        <translation>場所, パス, エミュレーター, Quillon.app</translation>
+    </message>
+    <message>
+        <source>Quit after Start</source>
+        <translation>開始したら終了する</translation>
+    </message>
+    <message>
+        <source>exit, close, end</source>
+        <translation>終了, 閉じる</translation>
+    </message>
+    <message>
+        <source>Show the SCSI tab</source>
+        <translation>SCSI タブを表示する</translation>
+    </message>
+    <message>
+        <source>bus, devices</source>
+        <translation>バス, デバイス</translation>
+    </message>
+    <message>
+        <source>Preferences window</source>
+        <translation>設定ウィンドウ</translation>
     </message>
 </context>
 <context>
@@ -632,38 +786,6 @@
     <message>
         <source>Disk images</source>
         <translation>ディスクイメージ</translation>
-    </message>
-    <message>
-        <source>The disk images of the Macintosh, in their order.</source>
-        <translation>Macintosh のディスクイメージを順番に示します。</translation>
-    </message>
-    <message>
-        <source>Disk i&amp;mages:</source>
-        <translation>ディスクイメージ(&amp;M):</translation>
-    </message>
-    <message>
-        <source>&amp;Add…</source>
-        <translation>追加(&amp;A)…</translation>
-    </message>
-    <message>
-        <source>Adds image files to the list.</source>
-        <translation>リストにディスクイメージを追加します。</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve</source>
-        <translation>取り除く(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Takes the selected image off the list. The file stays.</source>
-        <translation>選択したディスクイメージをリストから取り除きます。ファイルは残ります。</translation>
-    </message>
-    <message>
-        <source>New &amp;Blank Image…</source>
-        <translation>新しい空のディスクイメージ(&amp;B)…</translation>
-    </message>
-    <message>
-        <source>Makes an empty disk image. It is not added to the list.</source>
-        <translation>空のディスクイメージを作成します。リストには追加されません。</translation>
     </message>
     <message>
         <source>Ch&amp;oose…</source>
@@ -876,10 +998,6 @@
         <translation>新しい空のディスクイメージ</translation>
     </message>
     <message>
-        <source>The name of the image file, without &quot;.dsk&quot;.</source>
-        <translation>「.dsk」を除いたディスクイメージの名前です。</translation>
-    </message>
-    <message>
         <source>The size in megabytes. 100 if this is no whole number.</source>
         <translation>サイズ (MB 単位) です。整数でない場合は 100 になります。</translation>
     </message>
@@ -906,10 +1024,6 @@
     <message>
         <source>C&amp;lose</source>
         <translation>閉じる(&amp;L)</translation>
-    </message>
-    <message>
-        <source>The folder that the image file goes to.</source>
-        <translation>ディスクイメージを作成するフォルダーです。</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -951,6 +1065,22 @@
         <source>S&amp;top</source>
         <translation>停止(&amp;T)</translation>
     </message>
+    <message>
+        <source>The name of the disk image, without &quot;.dsk&quot;.</source>
+        <translation>「.dsk」を除いたディスクイメージの名前です。</translation>
+    </message>
+    <message>
+        <source>Add to the L&amp;ist…</source>
+        <translation>リストに追加(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Closes this sheet and opens Add… at the new disk image.</source>
+        <translation>このウィンドウを閉じ、新しいディスクイメージの場所で「追加…」を開きます。</translation>
+    </message>
+    <message>
+        <source>The folder that the disk image goes to.</source>
+        <translation>ディスクイメージを作成するフォルダーです。</translation>
+    </message>
 </context>
 <context>
     <name>desktop::DiagnosticsWindow</name>
@@ -980,6 +1110,29 @@
     </message>
 </context>
 <context>
+    <name>desktop::EmptyHint</name>
+    <message>
+        <source>No disk images yet.</source>
+        <translation>ディスクイメージはまだありません。</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>追加…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list (the key Insert does so, too).</source>
+        <translation>リストにディスクイメージを追加します (Insert キーでも追加できます)。</translation>
+    </message>
+    <message>
+        <source>New Blank Image…</source>
+        <translation>新しい空のディスクイメージ…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image.</source>
+        <translation>空のディスクイメージを作成します。</translation>
+    </message>
+</context>
+<context>
     <name>desktop::FindField</name>
     <message>
         <source>Find a setting (Ctrl+F)</source>
@@ -990,16 +1143,12 @@
         <translation>設定を検索</translation>
     </message>
     <message>
-        <source>Type a word of a setting&apos;s name, its key or its help.</source>
-        <translation>設定の名前、キー、またはヘルプに含まれる語を入力してください。</translation>
+        <source>Type words of a setting, of a choice that it offers, or of a disk image.</source>
+        <translation>設定、その選択肢、またはディスクイメージに含まれる語を入力してください。</translation>
     </message>
     <message>
-        <source>%1 — %2</source>
-        <translation>%1 — %2</translation>
-    </message>
-    <message>
-        <source>%1 (turn on &quot;%2&quot; first)</source>
-        <translation>%1 (先に「%2」をオンにしてください)</translation>
+        <source>What was found</source>
+        <translation>検索結果</translation>
     </message>
 </context>
 <context>
@@ -1060,16 +1209,24 @@
         <translation>新しい空のディスクイメージ(&amp;N)…</translation>
     </message>
     <message>
-        <source>&amp;Add Volume…</source>
-        <translation>ディスクイメージを追加(&amp;A)…</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Presets</source>
         <translation>プリセット(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Find a Setting…</source>
+        <translation>設定を検索(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>&amp;Add Disk Image…</source>
+        <translation>ディスクイメージを追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>A mark for yourself while the window is open. It changes no setting and is not saved.</source>
+        <translation>ウィンドウを開いている間のご自身のための目印です。設定は変わらず、保存もされません。</translation>
     </message>
 </context>
 <context>
@@ -1189,6 +1346,25 @@
         <source>- will be dropped   * will be changed   + will be added</source>
         <translation>- 削除されます   * 変更されます   + 追加されます</translation>
     </message>
+    <message>
+        <source>The file is not UTF-8 text.</source>
+        <translation>ファイルは UTF-8 のテキストではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SearchHits</name>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2: %3</source>
+        <translation>%1 — %2: %3</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;.</source>
+        <translation>「%1」は見つかりませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>desktop::SettingsWindow</name>
@@ -1257,10 +1433,6 @@
         <translation>「開始」は無効です。「編集 &gt; 設定」で Quillon の場所を選択してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is disabled. Turn on &quot;%2&quot; first.</source>
-        <translation>「%1」は無効です。先に「%2」をオンにしてください。</translation>
-    </message>
-    <message>
         <source>About Quillon Settings</source>
         <translation>Quillon の設定について</translation>
     </message>
@@ -1301,10 +1473,122 @@
     </message>
 </context>
 <context>
-    <name>desktop::VolumeView</name>
+    <name>desktop::VolumeMenu</name>
     <message>
-        <source>No disk images yet. Press Insert or the button &quot;Add…&quot; to add one.</source>
-        <translation>ディスクイメージはまだありません。Insert キーまたは「追加…」ボタンを押して追加してください。</translation>
+        <source>Move &amp;Up</source>
+        <translation>上に移動(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>下に移動(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>取り除く(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Show in &amp;Folder</source>
+        <translation>フォルダーで表示(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Path</source>
+        <translation>パスをコピー(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeModel</name>
+    <message>
+        <source>This file is missing.</source>
+        <translation>このファイルは見つかりません。</translation>
+    </message>
+    <message>
+        <source>This file cannot be reached: %1</source>
+        <translation>このファイルにアクセスできません: %1</translation>
+    </message>
+    <message>
+        <source>1 disk image</source>
+        <translation>ディスクイメージ 1 個</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>ディスクイメージ %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n missing</source>
+        <translation>
+            <numerusform>%n 個が見つかりません</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumeView</name>
+    <message numerus="yes">
+        <source>%n disk images</source>
+        <translation>
+            <numerusform>ディスクイメージ %n 個</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>desktop::VolumesList</name>
+    <message>
+        <source>Disk images</source>
+        <translation>ディスクイメージ</translation>
+    </message>
+    <message>
+        <source>The disk images of the Macintosh, in their order.</source>
+        <translation>Macintosh のディスクイメージを順番に示します。</translation>
+    </message>
+    <message>
+        <source>Disk i&amp;mages:</source>
+        <translation>ディスクイメージ(&amp;M):</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Adds disk images to the list.</source>
+        <translation>リストにディスクイメージを追加します。</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>取り除く(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Takes the selected disk image off the list. The file stays.</source>
+        <translation>選択したディスクイメージをリストから取り除きます。ファイルは残ります。</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>上に移動(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place up (%1).</source>
+        <translation>選択したディスクイメージを 1 つ上に移動します (%1)。</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>下に移動(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Moves the selected disk images one place down (%1).</source>
+        <translation>選択したディスクイメージを 1 つ下に移動します (%1)。</translation>
+    </message>
+    <message>
+        <source>New &amp;Blank Image…</source>
+        <translation>新しい空のディスクイメージ(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Makes an empty disk image. It is not added to the list.</source>
+        <translation>空のディスクイメージを作成します。リストには追加されません。</translation>
     </message>
 </context>
 </TS>
