@@ -1571,7 +1571,7 @@
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation>&amp;Subir</translation>
+        <translation>S&amp;ubir</translation>
     </message>
     <message>
         <source>Moves the selected disk images one place up (%1).</source>
