@@ -42,7 +42,9 @@ class CellPainter {
   void paintIcon(const QIcon& icon, Qt::AlignmentFlag side) {
     if (!icon.isNull()) {
       const QSize size = cell_.decorationSize;
-      icon.paint(&painter_, take(size.width(), side), Qt::AlignCenter);
+      // Not all of what it takes: some icons fill whatever they get.
+      const QRect taken = take(size.width(), side);
+      icon.paint(&painter_, QStyle::alignedRect(cell_.direction, Qt::AlignCenter, size, taken));
       take(size.width() / 2, side);
     }
   }

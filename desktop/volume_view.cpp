@@ -154,7 +154,10 @@ void VolumeView::focusInEvent(QFocusEvent* event) {
 
 void VolumeView::contextMenuEvent(QContextMenuEvent* event) {
   const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
-  const QPoint place = byKeyboard ? visualRect(currentIndex()).center() : event->pos();
+  openMenu(byKeyboard ? visualRect(currentIndex()).center() : event->pos());
+}
+
+void VolumeView::openMenu(const QPoint& place) {
   if (indexAt(place).isValid()) {
     (new VolumeMenu(
          volumes_, [this] { removeRow(); }, this))
@@ -174,6 +177,9 @@ void VolumeView::keyPressEvent(QKeyEvent* event) {
     removeRow();
   } else if (plain && event->key() == Qt::Key_Insert) {
     volumes_.browseFile.sendAction();
+  } else if (event->modifiers() == Qt::ShiftModifier && event->key() == Qt::Key_F10) {
+    // On X11 Qt 6.4 takes the key with the picture of a menu for this, and not this one.
+    openMenu(visualRect(currentIndex()).center());
   } else {
     QTableView::keyPressEvent(event);
   }

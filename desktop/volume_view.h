@@ -36,6 +36,7 @@ class VolumeView : public QTableView {
 
  private:
   void showState();
+  void openMenu(const QPoint& place);
   void removeRow();
   void rememberSelection(const QItemSelection& selected, const QItemSelection& deselected);
   void selectAdded();
