@@ -143,6 +143,11 @@ QString translatedLabel(const char* label) {
 QString plainText(const QString& label) {
   QString plain;
   for (qsizetype at = 0; at < label.size(); ++at) {
+    // "(&F)" holds the letter where a script has none of its own, as the Japanese does.
+    if (label.mid(at, 2) == QLatin1String("(&") && label.mid(at + 3, 1) == QLatin1String(")")) {
+      at += 3;
+      continue;
+    }
     // "&&" stands for one "&".
     at += label[at] == QLatin1Char('&') ? 1 : 0;
     if (at < label.size()) {
