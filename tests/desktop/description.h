@@ -55,25 +55,35 @@ inline std::string described(QWidget& window, const std::function<bool(QWidget*)
   return text.toStdString();
 }
 
-/// The letters that lead to more than one place while Alt is held.
-inline std::string doubleLetters(QWidget& window) {
+/// The texts whose letter leads to another one, too.
+inline std::string doubleLetters(const QStringList& texts) {
   std::set<QString> letters;
   QString doubles;
-  const auto add = [&](const QString& text) {
+  for (const QString& text : texts) {
     const QString letter = QKeySequence::mnemonic(text).toString();
     doubles += letter.isEmpty() || letters.insert(letter).second ? QString() : text;
-  };
-  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
-    if (widget->isVisible() && !widget->inherits("QLineEdit")) {
-      add(widget->property("text").toString());
-    }
-  }
-  if (const auto* const bar = window.findChild<QMenuBar*>()) {
-    for (const QAction* const menu : bar->actions()) {
-      add(menu->text());
-    }
   }
   return doubles.toStdString();
+}
+
+inline QStringList entriesOf(const QWidget& menu) {
+  QStringList texts;
+  for (const QAction* const entry : menu.actions()) {
+    texts += entry->text();
+  }
+  return texts;
+}
+
+/// What Alt and a letter lead to while the window is in front.
+inline QStringList reachedByLetter(const QWidget& window) {
+  QStringList texts;
+  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+    if (widget->isVisible() && !widget->inherits("QLineEdit")) {
+      texts += widget->property("text").toString();
+    }
+  }
+  const auto* const bar = window.findChild<QMenuBar*>();
+  return bar != nullptr ? texts + entriesOf(*bar) : texts;
 }
 
 /// The entries of the menus with their keys.

@@ -77,7 +77,7 @@ TEST_F(Window, ReadsAsDescribedTabByTab) {
   for (int tab = 0; tab < 7; ++tab) {
     key(Qt::Key_1 + tab, alt);
     EXPECT_EQ(focus(), "tabs") << "Alt and a digit leads there";
-    EXPECT_EQ(tests::doubleLetters(*window), "");
+    EXPECT_EQ(tests::doubleLetters(tests::reachedByLetter(*window)), "");
     golden.expect("Tab " + std::to_string(tab + 1) + ": " + tabs()->tabText(tab).toStdString(),
                   tests::described(*window, [this](const QWidget* widget) {
                     return tabs()->currentWidget()->isAncestorOf(widget);
