@@ -75,6 +75,7 @@ TEST_F(WorkspaceTest, FindsTheExecutable) {
   const std::string start = "<plist><dict><key>CFBundleExecutable</key><string>";
   folder.write("Q.app/Contents/Info.plist", start + "emulator</string></dict></plist>");
   folder.write("Up.app/Contents/Info.plist", start + "../../evil</string></dict></plist>");
+  (void)program("Up.app/evil");
   const auto cases = tests::cases("executables.txt", {"launches", "runs"}, folder.path());
   const fs::path before = fs::current_path();
   fs::current_path(folder.path());
