@@ -109,7 +109,10 @@ QPalette readable(QPalette palette) {
                        middle(palette.color(QPalette::Active, role), window));
     }
   }
-  if (isDark(palette.color(QPalette::Base)) == isDark(palette.color(QPalette::PlaceholderText))) {
+  // Adwaita has hints look like what is typed.
+  const QColor hint = palette.color(QPalette::PlaceholderText);
+  if (isDark(palette.color(QPalette::Base)) == isDark(hint) ||
+      hint == palette.color(QPalette::Text)) {
     QColor color = palette.color(QPalette::Text);
     color.setAlpha(170);
     palette.setColor(QPalette::PlaceholderText, color);

@@ -1,5 +1,6 @@
 #include "desktop/controls.h"
 
+#include <QApplication>
 #include <QCompleter>
 #include <QEvent>
 #include <QPointer>
@@ -9,6 +10,8 @@
 #include <utility>
 
 #include "desktop/file_drop.h"
+#include "desktop/icons.h"
+#include "desktop/plain_text.h"
 #include "desktop/status_line.h"
 #include "desktop/stepper_box.h"
 #include "desktop/texts.h"
@@ -62,11 +65,45 @@ void makeEditable(QComboBox* box, bool completes) {
   }
 }
 
+// A field that cannot be typed into is as its surroundings are: in most styles it looks like any
+// other. That is done anew when the desktop changes its colours.
+class ReadOnlyLook : public QObject {
+ public:
+  explicit ReadOnlyLook(QLineEdit* field) : QObject(field), field_(field) {
+    field->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::ReadOnlyChange || type == QEvent::PaletteChange) {
+      show();
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  void show() {
+    QPalette palette;  // of which nothing is set: all comes from the window
+    if (field_->isReadOnly()) {
+      palette.setBrush(QPalette::Base, QApplication::palette(field_).window());
+    }
+    const bool isSet = field_->testAttribute(Qt::WA_SetPalette);
+    const bool isRight =
+        isSet == field_->isReadOnly() && (!isSet || field_->palette().base() == palette.base());
+    if (!isRight) {
+      field_->setPalette(palette);
+    }
+  }
+
+  QLineEdit* field_;
+};
+
 }  // namespace
 
 void describe(QWidget* widget, const platform::Control& control, const QString& help) {
   widget->setObjectName(toQString(control.name()));
-  widget->setToolTip(help);
+  widget->setToolTip(shortToolTip(help));
   widget->setWhatsThis(help);
   widget->setAccessibleDescription(help);
 }
@@ -115,8 +152,12 @@ ButtonWidget* Controls::pressed(ButtonWidget* button, platform::Button& control,
 }
 
 QPushButton* Controls::pushButton(platform::Button& control, const QString& text,
-                                  const QString& help) {
-  return pressed(new QPushButton(text), control, help);
+                                  const QString& help, const char* icon) {
+  auto* const button = new QPushButton(text);
+  if (icon != nullptr) {
+    giveIcon(button, icon);
+  }
+  return pressed(button, control, help);
 }
 
 QToolButton* Controls::smallButton(platform::Button& control, const QString& text,
@@ -195,6 +236,7 @@ void Controls::tie(platform::TextField& control, const QString& help, PendingEdi
                    QLineEdit* field) {
   describe(field, control, help);
   field->setMaxLength(std::numeric_limits<int>::max());
+  new ReadOnlyLook(field);
   const auto store = [&control](const QString& text) { control.setStringValue(fromQString(text)); };
   PendingEdit* const pending = pendingEdit(
       field, control,

@@ -31,8 +31,9 @@ class Controls {
   explicit Controls(Edits& edits) : edits_(edits) {}
 
   /// The control's own title, where it has one, stands for `text`. A button that takes no focus on
-  /// a click leaves an edit in another field open.
-  QPushButton* pushButton(platform::Button& control, const QString& text, const QString& help);
+  /// a click leaves an edit in another field open. `icon` is the standard name of a picture.
+  QPushButton* pushButton(platform::Button& control, const QString& text, const QString& help,
+                          const char* icon = nullptr);
   /// No wider than its text.
   QToolButton* smallButton(platform::Button& control, const QString& text, const QString& help);
   QCheckBox* checkBox(platform::Button& control, const QString& text, const QString& help);

@@ -89,9 +89,9 @@ void CreateSheet::addFolder(QFormLayout& form) {
   QLineEdit* const path =
       controls_.lineEdit(controller_.imageFolder, tr("The folder that the disk image goes to."));
   path->setAccessibleName(tr("Folder"));
-  QPushButton* const choose =
-      controls_.pushButton(controller_.chooseImageFolder, tr("C&hoose…"),
-                           tr("Chooses the folder for this and later images, until you quit."));
+  QPushButton* const choose = controls_.pushButton(
+      controller_.chooseImageFolder, tr("C&hoose…"),
+      tr("Chooses the folder for this and later images, until you quit."), "folder-open");
   choose->setAutoDefault(false);
   auto* const row = new QHBoxLayout;
   row->addWidget(path, 1);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "desktop/icons.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -10,50 +11,64 @@ Menus::Menus(editor::ViewController& controller, Controls& controls, const Opene
     : controls_(controls) {
   addFile(controller, openers);
   QMenu* const edit = addMenu(tr("&Edit"));
-  add(edit, tr("&Find a Setting…"), QKeySequence(Qt::CTRL | Qt::Key_F), openers.find)
+  add(edit,
+      {.text = tr("&Find a Setting…"),
+       .icon = "edit-find",
+       .keys = QKeySequence(Qt::CTRL | Qt::Key_F)},
+      openers.find)
       ->setObjectName(QLatin1String("findAction"));
-  add(edit, tr("&Reset This Page"), {}, openers.resetPage)
+  add(edit, {.text = tr("&Reset This Page"), .icon = "edit-undo"}, openers.resetPage)
       ->setObjectName(QLatin1String("resetPage"));
   edit->addSeparator();
-  add(edit, tr("&Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), openers.preferences);
+  add(edit,
+      {.text = tr("&Preferences…"),
+       .icon = "preferences-system",
+       .keys = QKeySequence(Qt::CTRL | Qt::Key_Comma)},
+      openers.preferences);
   addPresets(controller.presets);
   QMenu* const help = addMenu(tr("&Help"));
-  add(help, tr("&Diagnostics…"), {}, openers.diagnostics)
+  add(help, {.text = tr("&Beta Agreement…")}, openers.agreement);
+  add(help, {.text = tr("&Diagnostics…")}, openers.diagnostics)
       ->setObjectName(QLatin1String("openDiagnostics"));
-  add(help, tr("&Beta Agreement…"), {}, openers.agreement);
-  add(help, tr("&About Quillon Settings"), {}, openers.about);
+  add(help, {.text = tr("&About Quillon Settings"), .icon = "help-about"}, openers.about);
 }
 
-QAction* Menus::add(QMenu* menu, const QString& text, const QKeySequence& keys,
-                    const Callback& callback) {
-  auto* const entry = new QAction(text, menu);
-  entry->setShortcut(keys);
+QAction* Menus::add(QMenu* menu, const Face& face, const Callback& callback) {
+  auto* const entry = new QAction(face.text, menu);
+  entry->setShortcut(face.keys);
+  if (face.icon != nullptr) {
+    giveIcon(entry, menu, face.icon);
+  }
   connect(entry, &QAction::triggered, this, callback);
   menu->addAction(entry);
   return entry;
 }
 
-QAction* Menus::addButton(QMenu* menu, platform::Button& button, const QString& text,
-                          const QKeySequence& keys) {
-  return add(menu, text, keys, [this, &button] {
+QAction* Menus::addButton(QMenu* menu, platform::Button& button, const Face& face) {
+  return add(menu, face, [this, &button] {
     controls_.edits().endEditing();
     button.sendAction();
   });
 }
 
 void Menus::addFile(editor::ViewController& controller, const Openers& openers) {
+  const auto withCtrl = [](Qt::Key key) { return QKeySequence(Qt::CTRL | key); };
   QMenu* const file = addMenu(tr("&File"));
-  addButton(file, controller.savePrefs, tr("&Save"), QKeySequence(Qt::CTRL | Qt::Key_S));
-  add(file, tr("Pre&view…"), {}, openers.preview)->setObjectName(QLatin1String("previewFile"));
-  start_ =
-      addButton(file, controller.startQuil, tr("S&tart"), QKeySequence(Qt::CTRL | Qt::Key_Return));
+  addButton(file, controller.savePrefs,
+            {.text = tr("&Save"), .icon = "document-save", .keys = withCtrl(Qt::Key_S)});
+  add(file, {.text = tr("Pre&view…"), .icon = "document-print-preview"}, openers.preview)
+      ->setObjectName(QLatin1String("previewFile"));
+  start_ = addButton(
+      file, controller.startQuil,
+      {.text = tr("S&tart"), .icon = "media-playback-start", .keys = withCtrl(Qt::Key_Return)});
   file->addSeparator();
-  addButton(file, controller.bitCreate, tr("&New Blank Image…"),
-            QKeySequence(Qt::CTRL | Qt::Key_N));
-  addButton(file, controller.volumes.browseFile, tr("&Add Disk Image…"),
-            QKeySequence(Qt::CTRL | Qt::Key_O));
+  addButton(file, controller.bitCreate,
+            {.text = tr("&New Blank Image…"), .icon = "document-new", .keys = withCtrl(Qt::Key_N)});
+  addButton(file, controller.volumes.browseFile,
+            {.text = tr("&Add Disk Image…"), .icon = "list-add", .keys = withCtrl(Qt::Key_O)});
   file->addSeparator();
-  addButton(file, controller.isQuit, tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q));
+  addButton(file, controller.isQuit,
+            {.text = tr("&Quit"), .icon = "application-exit", .keys = withCtrl(Qt::Key_Q)});
 }
 
 void Menus::addPresets(editor::Presets& presets) {

@@ -34,10 +34,15 @@ class Menus : public QMenuBar {
  private:
   using Callback = std::function<void()>;
 
-  QAction* add(QMenu* menu, const QString& text, const QKeySequence& keys,
-               const Callback& callback);
-  QAction* addButton(QMenu* menu, platform::Button& button, const QString& text,
-                     const QKeySequence& keys);
+  /// How an entry looks and which keys it has.
+  struct Face {
+    QString text;
+    const char* icon = nullptr;  // its standard name, if any
+    QKeySequence keys{};
+  };
+
+  QAction* add(QMenu* menu, const Face& face, const Callback& callback);
+  QAction* addButton(QMenu* menu, platform::Button& button, const Face& face);
   void addFile(editor::ViewController& controller, const Openers& openers);
   void addPresets(editor::Presets& presets);
 

@@ -1,26 +1,28 @@
 #pragma once
 
 #include <QFormLayout>
+#include <QLabel>
 #include <QString>
 #include <QWidget>
+#include <vector>
 
 #include "desktop/controls.h"
+#include "desktop/section.h"
 #include "desktop/setting_widgets.h"
 #include "editor/display.h"
 #include "editor/shapes.h"
 
 namespace desktop {
 
-/// Builds a form row by row, a row for each setting, and records where each setting went. A label
+/// Builds a page row by row, a row for each setting, and records where each setting went. A label
 /// is the setting's own; the letter behind "&" in it leads to the widget.
 class PageBuilder {
  public:
   PageBuilder(Controls& controls, SettingWidgets& settingWidgets)
-      : controls_(controls), settingWidgets_(settingWidgets), form_(new QFormLayout) {
-    form_->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-  }
+      : controls_(controls), settingWidgets_(settingWidgets) {}
 
-  void heading(const QString& text);
+  /// Begins a part of the page. One that has no title holds what comes before the first.
+  void section(const QString& title);
   void field(editor::TextFieldSetting& setting);
   void field(editor::TextFieldSetting& setting, QWidget* button);
   void choice(editor::PopUpSetting& setting);
@@ -30,19 +32,22 @@ class PageBuilder {
   /// Three rows.
   void screen(editor::ScreenSetting& setting);
 
-  [[nodiscard]] QFormLayout* form() const { return form_; }
+  /// What has been built, one part below the other, for a place of any width.
+  [[nodiscard]] QWidget* sections();
 
-  /// A page with the form in it.
-  [[nodiscard]] QWidget* page() const;
+  /// A page with it, where no line is longer than can be read well.
+  [[nodiscard]] QWidget* page();
 
  private:
+  QFormLayout* form();
   void row(editor::Setting& setting, const char* label, QWidget* widget);
   void addSettingWidget(editor::Setting& setting, const QString& label, QWidget* labelWidget,
                         QWidget* widget);
 
   Controls& controls_;
   SettingWidgets& settingWidgets_;
-  QFormLayout* form_;
+  std::vector<Section*> sections_;
+  std::vector<QLabel*> labels_;
 };
 
 }  // namespace desktop

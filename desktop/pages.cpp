@@ -23,9 +23,10 @@ QWidget* volumesPage(const PageContext& context) {
   auto* const layout = new QVBoxLayout(page);
   layout->addLayout(new VolumesList(context), 1);
   PageBuilder builder(controls, context.settingWidgets);
-  builder.field(shared.unixRootPath, controls.pushButton(shared.unixRoot, tr("Ch&oose…"),
-                                                         tr("Chooses the shared folder.")));
-  layout->addLayout(builder.form());
+  builder.field(shared.unixRootPath,
+                controls.pushButton(shared.unixRoot, tr("Ch&oose…"),
+                                    tr("Chooses the shared folder."), "folder-open"));
+  layout->addWidget(builder.sections());
   return page;
 }
 
@@ -42,9 +43,12 @@ QWidget* scsiPage(const PageContext& context) {
 QWidget* machinePage(const PageContext& context) {
   editor::MachineGroup& machine = context.controller.machine;
   PageBuilder page(context.controls, context.settingWidgets);
-  page.field(machine.romFile, context.controls.pushButton(machine.browseROM.button, tr("Bro&wse…"),
-                                                          tr("Chooses the ROM file.")));
+  page.section(tr("Starting"));
+  page.field(machine.romFile,
+             context.controls.pushButton(machine.browseROM.button, tr("Bro&wse…"),
+                                         tr("Chooses the ROM file."), "document-open"));
   page.choice(machine.stateStart);
+  page.section(tr("Hardware"));
   page.combo(machine.ramSizeMB);
   page.choice(machine.modelID);
   page.choice(machine.cpuType);
@@ -55,7 +59,9 @@ QWidget* machinePage(const PageContext& context) {
 QWidget* displayPage(const PageContext& context) {
   editor::DisplayGroup& display = context.controller.display;
   PageBuilder page(context.controls, context.settingWidgets);
+  page.section(tr("Screen"));
   page.screen(display.screen);
+  page.section(tr("Drawing"));
   page.choice(display.refreshRate);
   return page.page();
 }
@@ -63,28 +69,32 @@ QWidget* displayPage(const PageContext& context) {
 QWidget* soundPage(const PageContext& context) {
   editor::InputGroup& input = context.controller.input;
   PageBuilder page(context.controls, context.settingWidgets);
-  page.heading(tr("Sound"));
+  page.section(tr("Sound"));
   page.check(input.disableSound);
   page.field(input.audioOut);
   page.field(input.audioMix);
-  page.heading(tr("Keyboard"));
+  page.section(tr("Keyboard"));
   page.check(input.rawKeys);
   page.field(input.rawKeyFile,
              context.controls.pushButton(input.rawKeyFileSelect.button, tr("&Browse…"),
-                                         tr("Chooses the key code file.")));
-  page.heading(tr("Mouse"));
+                                         tr("Chooses the key code file."), "document-open"));
+  page.section(tr("Mouse"));
   page.choice(input.mouseWheel);
   page.steps(input.mouseScroll);
   return page.page();
 }
 
+// For names of devices and programs.
+void widen(QComboBox* box) { box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
+
 QWidget* networkPage(const PageContext& context) {
   editor::NetworkGroup& network = context.controller.network;
   PageBuilder page(context.controls, context.settingWidgets);
-  for (QComboBox* const box : {page.combo(network.modemPort), page.combo(network.printerPort),
-                               page.combo(network.etherPort)}) {
-    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  }
+  page.section(tr("Serial ports"));
+  widen(page.combo(network.modemPort));
+  widen(page.combo(network.printerPort));
+  page.section(tr("Network"));
+  widen(page.combo(network.etherPort));
   page.check(network.tunnelUDP);
   page.steps(network.portUDP);
   return page.page();
@@ -93,13 +103,13 @@ QWidget* networkPage(const PageContext& context) {
 QWidget* jitPage(const PageContext& context) {
   editor::JitGroup& jit = context.controller.jit;
   PageBuilder page(context.controls, context.settingWidgets);
-  page.heading(tr("Just-in-time compiler"));
+  page.section(tr("Just-in-time compiler"));
   page.check(jit.enableJIT);
   page.check(jit.compileFPU);
   page.combo(jit.jitCache);
   page.check(jit.lazyFlush);
   page.check(jit.inlineBlocks);
-  page.heading(tr("Processor emulation"));
+  page.section(tr("Processor emulation"));
   page.check(jit.ignoreSegV);
   page.check(jit.dontUseCPU);
   return page.page();

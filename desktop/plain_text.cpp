@@ -2,6 +2,7 @@
 
 #include <QChildEvent>
 #include <QMessageBox>
+#include <QTextBoundaryFinder>
 #include <QTextDocument>
 
 namespace desktop {
@@ -27,6 +28,14 @@ class PlainMessages : public QObject {
 }  // namespace
 
 QString plainToolTip(const QString& text) { return Qt::convertFromPlainText(text); }
+
+QString shortToolTip(const QString& help) {
+  QTextBoundaryFinder finder(QTextBoundaryFinder::Sentence, help);
+  const qsizetype end = finder.toNextBoundary();
+  // With blanks of the usual kind: the other mode makes them such that no line ends there.
+  return end < 0 ? QString()
+                 : Qt::convertFromPlainText(help.left(end).trimmed(), Qt::WhiteSpaceNormal);
+}
 
 QLabel* plainLabel(const QString& text) {
   auto* const label = new QLabel;

@@ -12,6 +12,10 @@ namespace desktop {
 /// A text for a tool tip. Tool tips know no format: the text is escaped.
 QString plainToolTip(const QString& text);
 
+/// The first sentence of a help for a tool tip. Escaped it is a rich text for Qt, which wraps no
+/// other.
+QString shortToolTip(const QString& help);
+
 /// A label that shows a text as it is.
 QLabel* plainLabel(const QString& text);
 

@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -15,7 +16,7 @@ PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, Q
 
   auto* const where = new QGroupBox(tr("Where Quillon is"));
   auto* const modes = new QVBoxLayout(where);
-  modes->addWidget(controls_.radioButton(controller_.quilOff, tr("&Nowhere"),
+  modes->addWidget(controls_.radioButton(controller_.quilOff, tr("&Not set up"),
                                          tr("Start is disabled until a place is chosen.")));
   modes->addWidget(controls_.radioButton(controller_.quilLocal, tr("&Beside this program"),
                                          tr("Quillon.app in the folder of this program.")));
@@ -33,7 +34,7 @@ PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, Q
   test->setAutoDefault(false);
   QPushButton* const done =
       controls_.pushButton(controller_.Done, tr("&Done"), tr("Applies and stores the choices."));
-  done->setAutoDefault(false);
+  done->setDefault(true);
   buttons->addWidget(test);
   buttons->addStretch();
   buttons->addWidget(done);
@@ -58,17 +59,27 @@ PreferencesWindow::PreferencesWindow(const platform::Host& host, Edits& edits, Q
   }
 }
 
+// Return in the location takes in what is typed there, which may turn out to be no place for
+// Quillon. Anywhere else it presses Done.
+void PreferencesWindow::keyPressEvent(QKeyEvent* event) {
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isReturn || !location_->hasFocus()) {
+    QDialog::keyPressEvent(event);
+  }
+}
+
 QLayout* PreferencesWindow::locationRow() {
   auto* const row = new QHBoxLayout;
   QLineEdit* const field = controls_.pathField(
       controller_.Quillon,
       tr("The application that Start launches. \"Quillon\" must be part of the name."));
   field->setAccessibleName(tr("Location"));
+  field->setPlaceholderText(tr("A path with \"Quillon\" in it, such as /opt/Quillon.app"));
   location_ = field;
   auto* const label = new QLabel(tr("&Location:"));
   label->setBuddy(field);
   QPushButton* const choose = controls_.pushButton(controller_.chooseQuillon, tr("&Choose…"),
-                                                   tr("Chooses the application."));
+                                                   tr("Chooses the application."), "document-open");
   choose->setAutoDefault(false);
   row->addWidget(label);
   row->addWidget(field, 1);

@@ -18,6 +18,9 @@ class PreferencesWindow : public QDialog {
   /// What shows where Quillon is.
   [[nodiscard]] QWidget* location() const { return location_; }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   [[nodiscard]] QLayout* locationRow();
 

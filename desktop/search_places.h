@@ -4,7 +4,7 @@
 #include <QTabWidget>
 #include <functional>
 
-#include "desktop/help_line.h"
+#include "desktop/help_pane.h"
 #include "desktop/search_index.h"
 #include "desktop/setting_widgets.h"
 #include "desktop/volume_view.h"
@@ -20,7 +20,7 @@ class SearchPlaces {
   struct Window {
     QTabWidget& tabs;
     const SettingWidgets& settings;
-    HelpLine& help;
+    HelpPane& help;
     VolumeView& images;
     QWidget& scsi;                              // shown or not
     std::function<QWidget*()> openPreferences;  // returns the Preferences window

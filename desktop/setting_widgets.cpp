@@ -13,6 +13,9 @@
 namespace desktop {
 namespace {
 
+// Stands behind the label of what is not the default.
+QString differenceMark() { return QLatin1Char(' ') + QChar(0x2022); }
+
 QString keyWord(const document::KeyRow& row) { return toQString(std::string(row.text)).trimmed(); }
 
 QString shownDefault(const editor::Setting& setting) {
@@ -54,21 +57,18 @@ const SettingWidget* enablerOf(const SettingWidget& place, const SettingWidgets&
   return found == all.end() ? nullptr : &*found;
 }
 
-QString helpOf(const editor::Setting& setting) {
+Help helpOf(const editor::Setting& setting) {
   const document::KeyRow& row = document::rowOf(setting.explainedKey());
   const QString value = shownDefault(setting);
   const QString word = keyWord(row);
-  QString help = QCoreApplication::translate("Help", row.help);
-  help += QLatin1Char(' ');
-  help += value.isEmpty()   ? tr("If unsure, leave it empty.")
-          : row.defaultAsks ? tr("Until you choose one it says \"%1\".").arg(value)
-                            : tr("If unsure, leave it at \"%1\".").arg(value);
-  help += QLatin1Char(' ');
-  help +=
+  return {
+      QCoreApplication::translate("Help", row.help),
+      value.isEmpty()   ? tr("If unsure, leave it empty.")
+      : row.defaultAsks ? tr("Until you choose one it says \"%1\".").arg(value)
+                        : tr("If unsure, leave it at \"%1\".").arg(value),
       row.written == nullptr
           ? tr("Writes \"%1\".").arg(word)
-          : tr("Writes \"%1\", %2.").arg(word, QCoreApplication::translate("Help", row.written));
-  return help;
+          : tr("Writes \"%1\", %2.").arg(word, QCoreApplication::translate("Help", row.written))};
 }
 
 void requireEverySetting(const SettingWidgets& shown) {
@@ -110,10 +110,10 @@ void showState(const SettingWidget& place, bool isChanged, bool isDefault) {
     font.setBold(isChanged);
     place.label->setFont(font);
   }
-  const QString dot = QLatin1Char(' ') + QChar(0x2022);
+  const QString mark = differenceMark();
   QString text = place.label->property("text").toString();
-  if (text.endsWith(dot) == isDefault) {
-    text = isDefault ? text.chopped(dot.size()) : text + dot;
+  if (text.endsWith(mark) == isDefault) {
+    text = isDefault ? text.chopped(mark.size()) : text + mark;
     place.label->setProperty("text", text);
   }
   QStringList told;
@@ -133,6 +133,20 @@ void showState(const SettingWidget& place, bool isChanged, bool isDefault) {
     if (widget != nullptr && widget->accessibleDescription() != description) {
       widget->setAccessibleDescription(description);
     }
+  }
+}
+
+void keepRoomForMarks(const std::vector<QLabel*>& labels) {
+  int width = 0;
+  for (const QLabel* const label : labels) {
+    QLabel marked(label->text() + differenceMark());
+    QFont bold = label->font();
+    bold.setBold(true);
+    marked.setFont(bold);
+    width = std::max(width, marked.sizeHint().width());
+  }
+  for (QLabel* const label : labels) {
+    label->setMinimumWidth(width);
   }
 }
 

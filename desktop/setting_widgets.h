@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QString>
 #include <QWidget>
 #include <vector>
@@ -25,14 +26,28 @@ void requireEverySetting(const SettingWidgets& shown);
 /// The place of the setting that enables a disabled one; none for an enabled one.
 const SettingWidget* enablerOf(const SettingWidget& place, const SettingWidgets& all);
 
-/// The help of a setting: what it does, what to leave it at, and what is written to the file.
-QString helpOf(const editor::Setting& setting);
+/// What there is to tell of a setting, in sentences.
+struct Help {
+  QString use;      // what it does
+  QString usual;    // what to leave it at
+  QString written;  // what stands in the file
+
+  [[nodiscard]] QString whole() const {
+    return use + QLatin1Char(' ') + usual + QLatin1Char(' ') + written;
+  }
+};
+
+Help helpOf(const editor::Setting& setting);
 
 /// Offers to reset a setting in its widget's context menu.
 void offerReset(const SettingWidget& place);
 
 /// Shows in the label and tells screen readers what there is to know of a setting's value.
 void showState(const SettingWidget& place, bool isChanged, bool isDefault);
+
+/// Makes labels that stand below each other as wide as the widest is with all marks that showState
+/// may give it: what is beside them stays in its place when the marks come and go.
+void keepRoomForMarks(const std::vector<QLabel*>& labels);
 
 /// A value as Setting::shownText has it, in the person's language.
 QString translatedValue(const std::string& text);

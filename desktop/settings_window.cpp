@@ -17,6 +17,7 @@
 
 #include "desktop/agreement_sheet.h"
 #include "desktop/create_sheet.h"
+#include "desktop/icons.h"
 #include "desktop/lead_to.h"
 #include "desktop/pages.h"
 #include "desktop/preview_window.h"
@@ -41,7 +42,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
       memory_(toQString(host.configHome)),
       controls_(edits),
       tabs_(new QTabWidget),
-      help_(new HelpLine),
+      help_(new HelpPane(settingWidgets_)),
       stored_(memory_) {
   setObjectName(QLatin1String("settingsWindow"));
   setWindowTitle(tr("Quillon Settings") + QLatin1String("[*]"));
@@ -80,6 +81,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
 }
 
 SettingsWindow::~SettingsWindow() {
+  delete help_;  // refers to members, which end before the widgets do
   // Without its pages it was never painted: size and tab are not what a person chose.
   if (!pagesComplete_) {
     return;
@@ -143,9 +145,10 @@ void SettingsWindow::fillPage(editor::TabId id) {
   // Qt puts a widget that is made later behind all others in the order of the Tab key. Only one
   // page is shown at a time, so that each can begin right behind the tab bar.
   QWidget* before = tabs_->tabBar();
-  for (QWidget* const widget :
-       page->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-    if (widget->focusPolicy() != Qt::NoFocus) {
+  for (QWidget* const widget : page->findChildren<QWidget*>()) {
+    // The line edit in a combo box gets the focus from that, and its list is another window.
+    if (widget->window() == this && widget->focusPolicy() != Qt::NoFocus &&
+        widget->parentWidget()->focusPolicy() == Qt::NoFocus) {
       setTabOrder(before, widget);
       before = widget;
     }
@@ -227,7 +230,8 @@ QLayout* SettingsWindow::fileRow() {
   row->addWidget(controls_.pushButton(
       controller_.copyPrefs, tr("&Copy"),
       tr("Copies the preferences file of your home folder to the place named here, if there is "
-         "none yet.")));
+         "none yet."),
+      "edit-copy"));
   return row;
 }
 
@@ -235,19 +239,21 @@ QLayout* SettingsWindow::buttonRow() {
   auto* const row = new QHBoxLayout;
   auto* const preferences = new QPushButton(tr("Prefere&nces…"));
   preferencesButton_ = preferences;
+  giveIcon(preferences, "preferences-system");
   preferences->setObjectName(QLatin1String("openPreferences"));
   preferences->setToolTip(tr("Where Quillon is, and how this program behaves."));
   connect(preferences, &QPushButton::clicked, this, &SettingsWindow::openPreferences);
-  QPushButton* const start = controls_.pushButton(controller_.startQuil, tr("S&tart"), QString());
+  QPushButton* const start =
+      controls_.pushButton(controller_.startQuil, tr("S&tart"), QString(), "media-playback-start");
   startShown_ = controller_.startQuil.attach([this, start] { showStart(start); });
   unsaved_ = new UnsavedBar(controller_, controls_.edits());
   row->addWidget(preferences);
   row->addWidget(unsaved_, 1);
-  row->addWidget(
-      controls_.pushButton(controller_.savePrefs, tr("&Save"), tr("Writes the preferences file.")));
+  row->addWidget(controls_.pushButton(controller_.savePrefs, tr("&Save"),
+                                      tr("Writes the preferences file."), "document-save"));
   row->addWidget(start);
   row->addWidget(controls_.pushButton(controller_.isQuit, tr("&Quit"),
-                                      tr("Ends the program without saving.")));
+                                      tr("Ends the program without saving."), "application-exit"));
   return row;
 }
 

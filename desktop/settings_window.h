@@ -12,7 +12,7 @@
 #include "desktop/controls.h"
 #include "desktop/diagnostics_window.h"
 #include "desktop/find_field.h"
-#include "desktop/help_line.h"
+#include "desktop/help_pane.h"
 #include "desktop/menus.h"
 #include "desktop/preferences_window.h"
 #include "desktop/search_places.h"
@@ -80,7 +80,8 @@ class SettingsWindow : public QMainWindow {
   Controls controls_;
   platform::Window delegate_;
   QTabWidget* tabs_;
-  HelpLine* help_;
+  SettingWidgets settingWidgets_;
+  HelpPane* help_;
   Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
   std::optional<SearchPlaces> searchPlaces_;  // when somebody has searched
@@ -89,7 +90,6 @@ class SettingsWindow : public QMainWindow {
   std::array<QScrollArea*, editor::tabCount> pages_{};
   bool pagesComplete_ = false;
   WindowMemory stored_;
-  SettingWidgets settingWidgets_;
   QWidget* volumesLabel_ = nullptr;
   UnsavedBar* unsaved_ = nullptr;
   QWidget* fileField_ = nullptr;

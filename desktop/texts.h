@@ -43,4 +43,8 @@ inline Qt::Alignment leadingSide() {
   return (QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
 }
 
+inline Qt::Alignment trailingSide() {
+  return (QGuiApplication::isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute;
+}
+
 }  // namespace desktop

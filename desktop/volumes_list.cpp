@@ -83,20 +83,20 @@ QLayout* VolumesList::buttons(VolumeView* table, const PageContext& context) {
   Controls& controls = context.controls;
   volumes::VolumeTable& volumes = context.controller.volumes;
   auto* const row = new QHBoxLayout;
-  row->addWidget(
-      controls.pushButton(volumes.browseFile, tr("&Add…"), tr("Adds disk images to the list.")));
-  row->addWidget(
-      controls.pushButton(volumes.removeVol, tr("Remo&ve"),
-                          tr("Takes the selected disk image off the list. The file stays.")));
+  row->addWidget(controls.pushButton(volumes.browseFile, tr("&Add…"),
+                                     tr("Adds disk images to the list."), "list-add"));
+  row->addWidget(controls.pushButton(
+      volumes.removeVol, tr("Remo&ve"),
+      tr("Takes the selected disk image off the list. The file stays."), "list-remove"));
   row->addWidget(moveButton(
       table, controls, volumes.moveUp, tr("Move &Up"),
       tr("Moves the selected disk images one place up (%1).").arg(keysText(moveUpKeys))));
   row->addWidget(moveButton(
       table, controls, volumes.moveDown, tr("Move Do&wn"),
       tr("Moves the selected disk images one place down (%1).").arg(keysText(moveDownKeys))));
-  row->addWidget(
-      controls.pushButton(context.controller.bitCreate, tr("New &Blank Image…"),
-                          tr("Makes an empty disk image. It is not added to the list.")));
+  row->addWidget(controls.pushButton(context.controller.bitCreate, tr("New &Blank Image…"),
+                                     tr("Makes an empty disk image. It is not added to the list."),
+                                     "document-new"));
   row->addStretch();
   return row;
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Leaves pictures of every tab and window as people with other screens, languages and eyes have
-# them, for somebody to look at.
+# Leaves pictures of every tab and window as people with other screens, languages, desktops and eyes
+# have them, and of what they meet at first and later, for somebody to look at.
 #
 #   looks.sh [FOLDER [LOOK...]]
 #
@@ -13,10 +13,22 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 
 pictures=$(realpath -m "${1:-$root/build/looks}")
 looks=("${@:2}")
-[ $# -gt 1 ] || looks=(light dark contrast double german mirrored small large-font)
+[ $# -gt 1 ] || looks=(light dark contrast double german mirrored small large-font
+  adwaita breeze first-run full-list findings unsaved)
 bundle=${BUNDLE:-$root/build/release/QuillonSettings.app}
 log=$(mktemp)
 trap 'rm -rf "$log" "${demoHome:-$log}"' EXIT
+
+# hasStyle NAME PACKAGE...: whether there is a style of that name for Qt 6, after installing the
+# packages. In Debian 12 the first of those of Breeze is for Qt 5.
+hasStyle() {
+  local needed styles
+  needed=$(apt-cache depends "$2")
+  [[ $needed == *libqt6widgets6* ]] || return 1
+  quietly installMissing "${@:2}" || return 1
+  styles=$(qmake6 -query QT_INSTALL_PLUGINS)/styles
+  compgen -G "$styles/$1*.so" >/dev/null
+}
 
 # theme FONT-SIZE WINDOW VIEW TEXT HIGHLIGHT HIGHLIGHTED: has Qt read colours and a font as on KDE.
 theme() {
@@ -45,9 +57,29 @@ END
   export XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
 }
 
+# Every fifth of them is missing.
+addDisks() {
+  local number file
+  for number in {1..40}; do
+    file="$HOME/Quillon/Disk $number.dsk"
+    [ $((number % 5)) -eq 0 ] || truncate -s "${number}M" "$file"
+    echo "disk $file"
+  done >>"$HOME/.quillon_prefs"
+}
+
+# isPossible LOOK
+isPossible() {
+  local svg
+  svg=$(apt-cache pkgnames qt6-svg-plugins)  # Debian 12 has them with the library
+  case $1 in
+    adwaita) hasStyle adwaita adwaita-qt6 adwaita-icon-theme "${svg:-libqt6svg6}" ;;
+    breeze) hasStyle breeze kde-style-breeze breeze-icon-theme "${svg:-libqt6svg6}" ;;
+  esac
+}
+
 # takeLook NAME: runs in a shell of its own, which the settings of one look do not leave.
 takeLook() {
-  local options=(--windows)
+  local options=(--windows --frames)
   case $1 in
     light) ;;
     dark) theme 9 49,54,59 35,38,41 252,252,252 61,174,233 252,252,252 ;;
@@ -57,6 +89,16 @@ takeLook() {
     mirrored) options+=(--locale ar_EG.UTF-8) ;;  # of Qt's own texts, which tell the direction
     small) options+=(--screen 1024x600) ;;
     large-font) theme 14 239,239,239 255,255,255 0,0,0 48,140,198 255,255,255 ;;
+    adwaita) export QT_STYLE_OVERRIDE=adwaita XDG_CURRENT_DESKTOP=GNOME ;;
+    breeze)
+      theme 10 239,240,241 252,252,252 35,38,41 61,174,233 252,252,252
+      printf '[Icons]\nTheme=breeze\n' >>"$XDG_CONFIG_HOME/kdeglobals"
+      export QT_STYLE_OVERRIDE=breeze
+      ;;
+    first-run) rm -r "$HOME/.quillon_prefs" "$HOME/Quillon.app" && options=(--frames) ;;
+    full-list) addDisks && options=(--frames) ;;
+    findings) rm -r "$HOME/Quillon" && options=(--frames --state findings) ;;
+    unsaved) options=(--frames --state unsaved) ;;
     *) echo "There is no look $1." >&2 && return 1 ;;
   esac
   "$root/scripts/virtual_display.sh" "${options[@]}" "$pictures/$1" \
@@ -64,9 +106,10 @@ takeLook() {
     { cat "$log" >&2 && return 1; }
 }
 
-installMissing "${buildPackages[@]}" "${displayPackages[@]}"
+installMissing "${buildPackages[@]}" "${displayPackages[@]}" openbox
 [ -e "$bundle" ] || { echo "$bundle is not built." >&2 && exit 1; }
 for look in "${looks[@]}"; do
+  isPossible "$look" || { echo "Left out: $look, which has no style for Qt 6 here." && continue; }
   makeDemoHome "$root" "$bundle" >/dev/null
   sed -i '/SCSI Tab/ { n; s/false/true/ }' "$demoHome/${bundle##*/}/Contents/Resources/Prefs.plist"
   (enterDemoHome && takeLook "$look")

@@ -7,18 +7,23 @@
 #   --start MEGABYTES      first sets the RAM size and starts the emulator, the stand-in
 #   --image NAME           makes a blank disk image of one megabyte
 #   --windows              leaves pictures of the other windows, too, on the whole screen
+#   --state findings       leaves a picture of what the checks have found; needs the English keys
+#   --state unsaved        changes a setting and leaves pictures of that; needs the English keys
+#   --frames               has a window manager put frames around the windows
 #   --screen WIDTHxHEIGHT  how large the screen is
 #   --locale NAME          whose language is shown; the RAM size needs the English keys
 set -euo pipefail
 # shellcheck source=scripts/display.sh
 . "$(dirname "$(readlink -f "$0")")/display.sh"
 
-megabytes='' image='' windows=false screen=1280x1024 locale=C.UTF-8
+megabytes='' image='' windows=false state='' frames=false screen=1280x1024 locale=C.UTF-8
 while [[ $1 == --* ]]; do
   case $1 in
     --start) megabytes=$2 && shift ;;
     --image) image=$2 && shift ;;
     --windows) windows=true ;;
+    --state) state=$2 && shift ;;
+    --frames) frames=true ;;
     --screen) screen=$2 && shift ;;
     --locale) locale=$2 && shift ;;
   esac
@@ -57,6 +62,14 @@ waitFor() {
 isRunning() { kill -0 "$1" 2>/dev/null; }
 hasEnded() { ! isRunning "$1"; }
 
+startFrames() {
+  openbox --sm-disable >/dev/null 2>&1 &
+  children+=($!)
+  waitFor 20 hasManager || fail "openbox does not start."
+}
+
+hasManager() { xdotool get_num_desktops >/dev/null 2>&1; }
+
 visibleWindows() { xdotool search --onlyvisible --class quillon-settings 2>/dev/null; }
 
 hasWindow() {
@@ -71,7 +84,7 @@ hasWindow() {
   [ -n "$window" ]
 }
 
-# There is no window manager that would give it the focus.
+# Where no window manager would give it the focus.
 hasFocus() {
   xdotool mousemove 4096 4096  # over nothing that would explain itself
   xdotool windowfocus "$window" 2>/dev/null
@@ -139,8 +152,21 @@ pictureWindows() {
   pictureWindow preferences key ctrl+comma
   pictureWindow create key ctrl+n
   pictureWindow agreement key alt+h sleep 0.3 key Return
+  pictureWindow diagnostics key alt+h sleep 0.3 key Down key Return
   pictureWindow file-panel key ctrl+o
   pictureWindow find key ctrl+f type s
+}
+
+# From the field of the preferences file, the checks are the second stop of the Tab key and the
+# changes the fourth.
+pictureState() {
+  if [ "$1" = findings ]; then
+    pictureWindow findings key alt+l key Tab key Tab key space
+  else
+    xdotool key "alt+$("$scsi" && echo 4 || echo 3)" key Tab key Down
+    pictureWindow changes key alt+l key Tab key Tab key Tab key Tab key space
+    pictureWindow preview key alt+f sleep 0.3 key v
+  fi
 }
 
 setRamAndStart() {
@@ -163,6 +189,7 @@ openDisplay "$scratch" "$screen"
 children+=("$display")
 export QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$scratch LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY LANGUAGE
+! "$frames" || startFrames
 LC_ALL=$locale "$@" &
 program=$!
 children+=("$program")
@@ -175,6 +202,7 @@ waitFor 20 hasFocus || fail "The window does not take the focus."
 [ -z "$megabytes" ] || setRamAndStart
 pictureTabs
 ! "$windows" || pictureWindows
+[ -z "$state" ] || pictureState "$state"
 [ -z "$image" ] || makeImage
 echo "The pictures are in $pictures."
 xdotool key ctrl+q

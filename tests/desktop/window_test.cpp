@@ -29,8 +29,13 @@ class Window : public tests::WindowTest {
     return widget == tabs()->tabBar() ? "tabs" : widget->objectName().toStdString();
   }
 
-  std::string help() const { return find<QLabel>("helpLine")->text().toStdString(); }
   std::string helpOf(const char* name) const { return find(name)->whatsThis().toStdString(); }
+  std::string help() const {
+    QString help = find<QLabel>("helpLine")->text();
+    help += QLatin1Char(' ');
+    help += find<QLabel>("helpFile")->text();
+    return help.trimmed().replace(QLatin1Char('\n'), QLatin1Char(' ')).toStdString();
+  }
 
   QAction* menuEntry(const char* text) const {
     const auto entries = window->findChildren<QAction*>();
