@@ -294,7 +294,7 @@ TEST(Faults, WhatChangesBetweenCheckAndUseIsNoticed) {
     SCOPED_TRACE(name);
     Save save(fileWith(2));
     const std::string path = save.host.home.path(FakeHost::prefs);
-    const auto change = [&] {
+    const auto change = [&path, &make = make] {
       fault().call = {};
       fs::remove(path);
       make(path);
@@ -353,8 +353,10 @@ int tornBySuddenEnds(const std::array<std::string, 2>& texts) {
   for (std::size_t round = 0; round < 1000; ++round) {
     const std::string path = folder.write("prefs", texts[round % 2]);
     const pid_t child = ::fork();
-    for (std::size_t turn = round + 1; child == 0; ++turn) {
-      (void)platform::writeFile(path, texts[turn % 2]);
+    if (child == 0) {
+      for (std::size_t turn = round + 1;; ++turn) {
+        (void)platform::writeFile(path, texts[turn % 2]);
+      }
     }
     ::usleep(std::uniform_int_distribution<useconds_t>(100, 4000)(random));
     ::kill(child, SIGKILL);
