@@ -883,6 +883,30 @@
         <source>All files</source>
         <translation>Alle Dateien</translation>
     </message>
+    <message>
+        <source>Starting</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Serial ports</source>
+        <translation>Serielle Anschlüsse</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -1152,7 +1176,7 @@
     </message>
 </context>
 <context>
-    <name>desktop::HelpLine</name>
+    <name>desktop::HelpPane</name>
     <message>
         <source>Move to a setting to read here what it does.</source>
         <translation>Gehen Sie zu einer Einstellung, um hier zu lesen, was sie bewirkt.</translation>
@@ -1240,10 +1264,6 @@
         <translation>Wo sich Quillon befindet</translation>
     </message>
     <message>
-        <source>&amp;Nowhere</source>
-        <translation>&amp;Nirgends</translation>
-    </message>
-    <message>
         <source>Start is disabled until a place is chosen.</source>
         <translation>„Starten“ ist deaktiviert, bis ein Ort gewählt ist.</translation>
     </message>
@@ -1314,6 +1334,14 @@
     <message>
         <source>Chooses the application.</source>
         <translation>Wählt die Anwendung aus.</translation>
+    </message>
+    <message>
+        <source>&amp;Not set up</source>
+        <translation>&amp;Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>A path with &quot;Quillon&quot; in it, such as /opt/Quillon.app</source>
+        <translation>Ein Pfad, der „Quillon“ enthält, etwa /opt/Quillon.app</translation>
     </message>
 </context>
 <context>

@@ -883,6 +883,30 @@
         <source>Not the default.</source>
         <translation>Distinto del valor predeterminado.</translation>
     </message>
+    <message>
+        <source>Starting</source>
+        <translation>Arranque</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dibujo</translation>
+    </message>
+    <message>
+        <source>Serial ports</source>
+        <translation>Puertos serie</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -1152,7 +1176,7 @@
     </message>
 </context>
 <context>
-    <name>desktop::HelpLine</name>
+    <name>desktop::HelpPane</name>
     <message>
         <source>Move to a setting to read here what it does.</source>
         <translation>Vaya a un ajuste para leer aquí lo que hace.</translation>
@@ -1240,10 +1264,6 @@
         <translation>Dónde está Quillon</translation>
     </message>
     <message>
-        <source>&amp;Nowhere</source>
-        <translation>&amp;Sin indicar</translation>
-    </message>
-    <message>
         <source>Start is disabled until a place is chosen.</source>
         <translation>«Iniciar» está desactivado hasta que se elija un lugar.</translation>
     </message>
@@ -1314,6 +1334,14 @@
     <message>
         <source>Chooses the application.</source>
         <translation>Elige la aplicación.</translation>
+    </message>
+    <message>
+        <source>&amp;Not set up</source>
+        <translation>&amp;Sin configurar</translation>
+    </message>
+    <message>
+        <source>A path with &quot;Quillon&quot; in it, such as /opt/Quillon.app</source>
+        <translation>Una ruta que contenga «Quillon», como /opt/Quillon.app</translation>
     </message>
 </context>
 <context>

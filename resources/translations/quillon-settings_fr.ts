@@ -883,6 +883,30 @@
         <source>Not the default.</source>
         <translation>Différent de la valeur par défaut.</translation>
     </message>
+    <message>
+        <source>Starting</source>
+        <translation>Démarrage</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Matériel</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Dessin</translation>
+    </message>
+    <message>
+        <source>Serial ports</source>
+        <translation>Ports série</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -1152,7 +1176,7 @@
     </message>
 </context>
 <context>
-    <name>desktop::HelpLine</name>
+    <name>desktop::HelpPane</name>
     <message>
         <source>Move to a setting to read here what it does.</source>
         <translation>Allez sur un réglage pour lire ici ce qu’il fait.</translation>
@@ -1240,10 +1264,6 @@
         <translation>Emplacement de Quillon</translation>
     </message>
     <message>
-        <source>&amp;Nowhere</source>
-        <translation>&amp;Nulle part</translation>
-    </message>
-    <message>
         <source>Start is disabled until a place is chosen.</source>
         <translation>«&#xa0;Démarrer&#xa0;» est désactivé tant qu’aucun emplacement n’est choisi.</translation>
     </message>
@@ -1314,6 +1334,14 @@
     <message>
         <source>Chooses the application.</source>
         <translation>Choisit l’application.</translation>
+    </message>
+    <message>
+        <source>&amp;Not set up</source>
+        <translation>&amp;Non configuré</translation>
+    </message>
+    <message>
+        <source>A path with &quot;Quillon&quot; in it, such as /opt/Quillon.app</source>
+        <translation>Un chemin contenant «&#xa0;Quillon&#xa0;», par exemple /opt/Quillon.app</translation>
     </message>
 </context>
 <context>

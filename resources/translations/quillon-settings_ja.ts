@@ -883,6 +883,30 @@
         <source>Not the default.</source>
         <translation>既定値ではありません。</translation>
     </message>
+    <message>
+        <source>Starting</source>
+        <translation>起動</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>ハードウェア</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>描画</translation>
+    </message>
+    <message>
+        <source>Serial ports</source>
+        <translation>シリアルポート</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>
@@ -1152,7 +1176,7 @@
     </message>
 </context>
 <context>
-    <name>desktop::HelpLine</name>
+    <name>desktop::HelpPane</name>
     <message>
         <source>Move to a setting to read here what it does.</source>
         <translation>設定に移動すると、ここに説明が表示されます。</translation>
@@ -1240,10 +1264,6 @@
         <translation>Quillon の場所</translation>
     </message>
     <message>
-        <source>&amp;Nowhere</source>
-        <translation>なし(&amp;N)</translation>
-    </message>
-    <message>
         <source>Start is disabled until a place is chosen.</source>
         <translation>場所を選択するまで「開始」は無効です。</translation>
     </message>
@@ -1314,6 +1334,14 @@
     <message>
         <source>Chooses the application.</source>
         <translation>アプリケーションを選択します。</translation>
+    </message>
+    <message>
+        <source>&amp;Not set up</source>
+        <translation>未設定(&amp;N)</translation>
+    </message>
+    <message>
+        <source>A path with &quot;Quillon&quot; in it, such as /opt/Quillon.app</source>
+        <translation>「Quillon」を含むパス (例: /opt/Quillon.app)</translation>
     </message>
 </context>
 <context>
