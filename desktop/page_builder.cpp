@@ -8,6 +8,12 @@
 #include "desktop/texts.h"
 
 namespace desktop {
+namespace {
+
+// In French a space goes before the colon.
+QString caption(const QString& label) { return tr("%1:").arg(label); }
+
+}  // namespace
 
 void PageBuilder::addSettingWidget(editor::Setting& setting, const QString& label,
                                    QWidget* labelWidget, QWidget* widget) {
@@ -40,7 +46,7 @@ QFormLayout* PageBuilder::form() {
 
 void PageBuilder::row(editor::Setting& setting, const char* label, QWidget* widget) {
   const QString text = translatedLabel(label);
-  form()->addRow(text + QLatin1Char(':'), widget);
+  form()->addRow(caption(text), widget);
   // The line edit inside a combo box or a stepper is an object of its own in the accessibility
   // tree.
   for (QWidget* const named : {widget, static_cast<QWidget*>(widget->findChild<QLineEdit*>())}) {
@@ -58,7 +64,7 @@ void PageBuilder::field(editor::TextFieldSetting& setting, QWidget* button) {
   auto* const line = new QHBoxLayout;
   line->addWidget(widget, 1);
   line->addWidget(button);
-  auto* const title = new QLabel(text + QLatin1Char(':'));
+  auto* const title = new QLabel(caption(text));
   title->setBuddy(widget);
   form()->addRow(title, line);
   widget->setAccessibleName(plainText(text));

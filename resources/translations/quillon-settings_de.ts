@@ -907,6 +907,10 @@
         <source>Network</source>
         <translation>Netzwerk</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>

@@ -907,6 +907,10 @@
         <source>Network</source>
         <translation>Réseau</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>desktop::AgreementSheet</name>

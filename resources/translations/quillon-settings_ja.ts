@@ -762,7 +762,7 @@
     </message>
     <message>
         <source>Rest while the Macintosh is &amp;idle</source>
-        <translation>Macintosh がアイドル状態のとき休止する(&amp;I)</translation>
+        <translation>アイドル時に休止する(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -906,6 +906,10 @@
     <message>
         <source>Network</source>
         <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>
