@@ -91,14 +91,17 @@ TEST(Editing, TakesChosenPaths) {
   };
   MachineGroup& machine = controller.machine;
   InputGroup& input = controller.input;
-  const Chooser choosers[] = {
-      {.button = controller.sharedFolder.unixRoot,
-       .setting = controller.sharedFolder.unixRootPath,
-       .shown = "modal Choose Unix Root Folder",
-       .label = "extfs ",
-       .isForFolders = true},
-      {.button = machine.browseROM.button, .setting = machine.romFile, .shown = "panel "},
-      {.button = input.rawKeyFileSelect.button, .setting = input.rawKeyFile, .shown = "panel "}};
+  const Chooser choosers[] = {{.button = controller.sharedFolder.unixRoot,
+                               .setting = controller.sharedFolder.unixRootPath,
+                               .shown = "modal Choose Unix Root Folder",
+                               .label = "extfs ",
+                               .isForFolders = true},
+                              {.button = machine.browseROM.button,
+                               .setting = machine.romFile,
+                               .shown = "panel Choose the ROM File"},
+                              {.button = input.rawKeyFileSelect.button,
+                               .setting = input.rawKeyFile,
+                               .shown = "panel Choose the Key Code File"}};
   for (const auto& [button, setting, shown, label, isForFolders] : choosers) {
     SCOPED_TRACE(button.name());
     button.sendAction();
