@@ -30,18 +30,13 @@ inline std::string described(QWidget& window, const std::function<bool(QWidget*)
         text += QLatin1String("\"%1\"\n").arg(label->text());
       } else if (isControl) {
         const auto* const face = QAccessible::queryAccessibleInterface(widget);
-        // A combo box is called by what it shows, unless it is asked for the name that it was
-        // given.
-        const QString given = widget->accessibleName();
-        const QString called = given.isEmpty() ? face->text(QAccessible::Name) : given;
-        const QVariant entry = widget->property("currentText");
-        const QString shown = entry.isValid()                 ? entry.toString()
-                              : widget->inherits("QLineEdit") ? widget->property("text").toString()
-                                                              : QString();
+        // Qt 6.4 tells the name of a table for its value, too, Qt 6.11 an empty text.
+        const bool isTable = face->role() == QAccessible::Table;
+        const QString value = isTable ? QString() : face->text(QAccessible::Value);
         const auto* const button = qobject_cast<QPushButton*>(widget);
         text += QLatin1String("%1 %2 \"%3\" %4%5%6\n")
                     .arg(QLatin1String(widget->metaObject()->className()), name,
-                         face->text(QAccessible::Name), face->text(QAccessible::Value),
+                         face->text(QAccessible::Name), value,
                          QLatin1String(widget->isEnabled() ? "" : " (disabled)"),
                          QLatin1String(button != nullptr && button->isDefault() ? " (default)"
                                        : widget->property("checked").toBool()   ? " (on)"
