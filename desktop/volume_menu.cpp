@@ -13,7 +13,8 @@
 
 namespace desktop {
 
-VolumeMenu::VolumeMenu(volumes::VolumeTable& volumes, std::function<void()> remove, QWidget* parent)
+VolumeMenu::VolumeMenu(volumes::VolumeTable& volumes, const std::function<void()>& remove,
+                       QWidget* parent)
     : QMenu(parent), volumes_(volumes) {
   setObjectName(QLatin1String("volumeMenu"));
   setAttribute(Qt::WA_DeleteOnClose);

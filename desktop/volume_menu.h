@@ -13,7 +13,7 @@ class VolumeMenu : public QMenu {
 
  public:
   /// `remove` takes the selected image off the list.
-  VolumeMenu(volumes::VolumeTable& volumes, std::function<void()> remove, QWidget* parent);
+  VolumeMenu(volumes::VolumeTable& volumes, const std::function<void()>& remove, QWidget* parent);
 
  private:
   QAction* add(const char* name, const QString& text, const QKeySequence& keys,
