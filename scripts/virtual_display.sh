@@ -144,7 +144,8 @@ pictureWindow() {
   seen=''
   waitFor 20 isStill || fail "$name.png does not come to rest."
   mv "$scratch/now.png" "$pictures/$name.png"
-  xdotool key Escape
+  # The agreement is left by its buttons only.
+  if [ "$name" = agreement ]; then xdotool key Return; else xdotool key Escape; fi
   waitFor 20 hasClosed || fail "What $name.png shows does not close."
 }
 
