@@ -39,7 +39,7 @@ class List : public tests::WindowTest {
     ASSERT_TRUE(action->isEnabled()) << entry;
     action->trigger();
     key(Qt::Key_Escape);  // also ends the Shift above, with which selecting would toggle
-    QTest::qWait(0);  // until it is gone
+    QTest::qWait(0);      // until it is gone
   }
 
   QTableView* table = nullptr;
