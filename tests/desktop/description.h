@@ -7,10 +7,21 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <functional>
-#include <set>
 #include <string>
 
 namespace tests {
+
+/// What a screen reader calls a widget. A combo box is named by its value: its label tells what it
+/// is.
+inline QString spokenName(QWidget* widget) {
+  const auto* const face = QAccessible::queryAccessibleInterface(widget);
+  for (const auto& [other, relation] : face->relations(QAccessible::Label)) {
+    if (face->role() == QAccessible::ComboBox) {
+      return other->text(QAccessible::Name);
+    }
+  }
+  return face->text(QAccessible::Name);
+}
 
 /// What a person comes upon in a window, in the order of the Tab key: labels as they are written,
 /// and each control with its kind, its accessible name, what it shows, and its help. `passes` tells
@@ -35,9 +46,8 @@ inline std::string described(QWidget& window, const std::function<bool(QWidget*)
         const QString value = isTable ? QString() : face->text(QAccessible::Value);
         const auto* const button = qobject_cast<QPushButton*>(widget);
         text += QLatin1String("%1 %2 \"%3\" %4%5%6\n")
-                    .arg(QLatin1String(widget->metaObject()->className()), name,
-                         face->text(QAccessible::Name), value,
-                         QLatin1String(widget->isEnabled() ? "" : " (disabled)"),
+                    .arg(QLatin1String(widget->metaObject()->className()), name, spokenName(widget),
+                         value, QLatin1String(widget->isEnabled() ? "" : " (disabled)"),
                          QLatin1String(button != nullptr && button->isDefault() ? " (default)"
                                        : widget->property("checked").toBool()   ? " (on)"
                                        : widget->property("readOnly").toBool()  ? " (read-only)"
@@ -50,46 +60,16 @@ inline std::string described(QWidget& window, const std::function<bool(QWidget*)
   return text.toStdString();
 }
 
-/// The texts whose letter leads to another one, too.
-inline std::string doubleLetters(const QStringList& texts) {
-  std::set<QString> letters;
-  QString doubles;
-  for (const QString& text : texts) {
-    const QString letter = QKeySequence::mnemonic(text).toString();
-    doubles += letter.isEmpty() || letters.insert(letter).second ? QString() : text;
-  }
-  return doubles.toStdString();
-}
-
-inline QStringList entriesOf(const QWidget& menu) {
-  QStringList texts;
-  for (const QAction* const entry : menu.actions()) {
-    texts += entry->text();
-  }
-  return texts;
-}
-
-/// What Alt and a letter lead to while the window is in front.
-inline QStringList reachedByLetter(const QWidget& window) {
-  QStringList texts;
-  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
-    if (widget->isVisible() && !widget->inherits("QLineEdit")) {
-      texts += widget->property("text").toString();
-    }
-  }
-  const auto* const bar = window.findChild<QMenuBar*>();
-  return bar != nullptr ? texts + entriesOf(*bar) : texts;
-}
-
 /// The entries of the menus with their keys.
 inline std::string described(const QMenuBar& bar) {
   QString text;
   for (const QAction* const menu : bar.actions()) {
     text += menu->text() + QLatin1Char('\n');
     for (const QAction* const entry : menu->menu()->actions()) {
-      text += QLatin1String("    %1 %2%3\n")
+      text += QLatin1String("    %1 %2%3%4\n")
                   .arg(entry->text(), entry->shortcut().toString(),
-                       QLatin1String(entry->isEnabled() ? "" : " (disabled)"));
+                       QLatin1String(entry->isEnabled() ? "" : " (disabled)"),
+                       QLatin1String(entry->isChecked() ? " (on)" : ""));
     }
   }
   return text.toStdString();

@@ -14,7 +14,6 @@ class Fields : public tests::WindowTest {};
 TEST_F(Fields, TakeTheFileThatIsDropped) {
   for (const tests::Case& each : tests::cases("dropped.txt", {"url", "shown"})) {
     open("rom /old\n");
-    window->completePages();
     QList<QUrl> urls;
     for (const std::string& url : each.all("url")) {
       urls.append(QUrl(QString::fromStdString(url)));
@@ -26,7 +25,7 @@ TEST_F(Fields, TakeTheFileThatIsDropped) {
     QDropEvent drop({5, 5}, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(find("romFile"), &enter);
     QApplication::sendEvent(find("romFile"), &drop);
-    EXPECT_EQ(find<QLineEdit>("romFile")->text().toStdString(), each["shown"]);
+    EXPECT_EQ(text("romFile"), each["shown"]);
     EXPECT_EQ(value(Key::rom), each["shown"]);
   }
 }
@@ -34,22 +33,21 @@ TEST_F(Fields, TakeTheFileThatIsDropped) {
 TEST_F(Fields, AnArrowLeadsIntoTheRangeFirst) {
   struct Case {
     const char* inFile;
-    Qt::Key arrow;
+    const char* arrow;
     const char* first;
     const char* second;
   };
   for (const Case& each :
-       {Case{.inFile = "0", .arrow = Qt::Key_Up, .first = "1", .second = "2"},
-        Case{.inFile = "0", .arrow = Qt::Key_Down, .first = "1", .second = "1"},
-        Case{.inFile = "70000", .arrow = Qt::Key_Up, .first = "65535", .second = "65535"},
-        Case{.inFile = "70000", .arrow = Qt::Key_Down, .first = "65535", .second = "65534"}}) {
+       {Case{.inFile = "0", .arrow = "Up", .first = "1", .second = "2"},
+        Case{.inFile = "0", .arrow = "Down", .first = "1", .second = "1"},
+        Case{.inFile = "70000", .arrow = "Up", .first = "65535", .second = "65535"},
+        Case{.inFile = "70000", .arrow = "Down", .first = "65535", .second = "65534"}}) {
     SCOPED_TRACE(each.inFile);
     open(std::string("udpport ") + each.inFile + "\n");
-    showTab("Network");
-    find("portUDP")->setFocus();
-    key(each.arrow);
+    enter("portUDP");
+    press(each.arrow);
     EXPECT_EQ(value(Key::udpport), each.first);
-    key(each.arrow);
+    press(each.arrow);
     EXPECT_EQ(value(Key::udpport), each.second);
   }
 }
@@ -57,11 +55,9 @@ TEST_F(Fields, AnArrowLeadsIntoTheRangeFirst) {
 TEST_F(Fields, KeepTextsOfAnyLength) {
   const std::string text(40000, 'x');
   open("rom " + text + "\nether " + text + "\n");
-  window->completePages();
   for (const auto& [name, key] :
        {std::pair("romFile", Key::rom), std::pair("etherPort", Key::ether)}) {
-    showTabOf(find(name));
-    find(name)->setFocus();
+    enter(name);
     press("End");
     type("y");
     press("Tab");
@@ -70,37 +66,36 @@ TEST_F(Fields, KeepTextsOfAnyLength) {
 }
 
 TEST_F(Fields, EndBeforeTheirWindowDoes) {
-  open();
-  window->completePages();
-  const auto fields = window->findChildren<QLineEdit*>();
-  for (qsizetype number = 0; number < fields.size() + 2; ++number) {
+  struct Place {
+    const char* field;
+    const char* opener = nullptr;  // of the window it is in
+  };
+  for (const auto& [field, opener] :
+       {Place{.field = "romFile"}, Place{.field = "ramSizeMB"}, Place{.field = "portUDP"},
+        Place{.field = "findSetting"}, Place{.field = "filename_field"},
+        Place{.field = "Quillon", .opener = "openPreferences"},
+        Place{.field = "createName", .opener = "bitCreate"}}) {
     open();
-    window->completePages();
     app::sharedVar::startFlag = app::startCustom;
-    if (number >= fields.size()) {
-      click(number == fields.size() ? "openPreferences" : "bitCreate");
-      QTest::qWait(0);
+    if (opener != nullptr) {
+      openBy(opener);
     }
-    QWidget* const widget = number < fields.size() ? window->findChildren<QLineEdit*>().at(number)
-                            : number == fields.size() ? find("Quillon")
-                                                      : find("createName");
-    showTabOf(widget);
-    widget->setFocus();
+    const QPointer<QWidget> widget = enter(field);
     type("300");
-    if (auto* const box = qobject_cast<QComboBox*>(widget->parentWidget())) {
+    if (auto* const box = qobject_cast<QComboBox*>(widget)) {
       box->showPopup();
     }
     fake.said();
     // Some platforms take the focus from a widget only when it is being deleted.
     QWidget* const first = window->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    QObject::connect(first, &QObject::destroyed, [widget = QPointer<QWidget>(widget)] {
+    QObject::connect(first, &QObject::destroyed, [widget] {
       QFocusEvent leaves(QEvent::FocusOut, Qt::OtherFocusReason);
       if (widget != nullptr) {
         QApplication::sendEvent(widget, &leaves);
       }
     });
     window.reset();
-    EXPECT_EQ(fake.said(), "") << "field " << number;
+    EXPECT_EQ(fake.said(), "") << field;
   }
 }
 

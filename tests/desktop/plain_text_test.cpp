@@ -53,7 +53,6 @@ TEST_F(PlainText, WhatComesFromOutsideIsNeverHtml) {
     lines += std::string(row.text) + html.toStdString() + "\n";
   }
   open(lines);
-  window->completePages();
   app::sharedVar::pathToQuil = html.toStdString();
   app::sharedVar::pathToQuilRoot = fake.home.path(html.toStdString() + "/");
   click("openPreferences");

@@ -1,5 +1,3 @@
-#include <QTableView>
-
 #include "tests/desktop/window_fixture.h"
 
 namespace {
@@ -25,7 +23,7 @@ class Repeat : public tests::WindowTest {
 TEST_F(Repeat, WhateverIsHeldOrPressedTwiceStartsOnce) {
   const auto holdsKeys = [] { hold(Qt::Key_Return, Qt::ControlModifier); };
   const auto holdsSpace = [this] {
-    find("startQuil")->setFocus();
+    enter("startQuil");
     hold(Qt::Key_Space);
   };
   const auto clicksTwice = [this] {
@@ -54,7 +52,7 @@ TEST_F(Repeat, AHeldKeySavesOnceRemovesOneImageAndMakesOne) {
   hold(Qt::Key_S, Qt::ControlModifier);
   const QString said = QString::fromStdString(fake.said());
   EXPECT_EQ(said.count(QLatin1String("post write prefs")), 1);
-  find<QTableView>("tableView")->setFocus();  // selects the first row
+  enter("tableView");  // selects the first row
   hold(Qt::Key_Delete);
   EXPECT_EQ(controller->volumes.volumes().size(), 2U);
   click("bitCreate");

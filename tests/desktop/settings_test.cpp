@@ -9,12 +9,10 @@ class Settings : public tests::WindowTest {
  protected:
   /// Does it as a person does, on the tab where the control is.
   void perform(const Edit& edit) {
-    QWidget* const widget = find(edit.control.c_str());
-    showTabOf(widget);
-    widget->setFocus();
+    QWidget* const widget = enter(edit.control.c_str());
     if (edit.typed) {
       typeInto(edit.control.c_str(), edit.typed->c_str());
-      key(Qt::Key_Tab);
+      press("Tab");
     } else if (auto* const box = qobject_cast<QComboBox*>(widget)) {
       box->setCurrentIndex(static_cast<int>(*edit.chosen));  // as the list does
       Q_EMIT box->activated(static_cast<int>(*edit.chosen));
@@ -22,14 +20,13 @@ class Settings : public tests::WindowTest {
       click(edit.control.c_str());
     }
     for (int step = 0; step < edit.steps; ++step) {
-      key(Qt::Key_Up);
+      press("Up");
     }
   }
 };
 
 TEST_F(Settings, EachWidgetEditsItsOwn) {
   open();
-  window->completePages();
   tests::Model model("");
   for (const Edit& edit : tests::edits()) {
     perform(edit);

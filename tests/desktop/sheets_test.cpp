@@ -1,95 +1,47 @@
-#include <QAbstractButton>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QTranslator>
 
 #include "desktop/panels.h"
 #include "tests/desktop/window_fixture.h"
 
 namespace {
 
+/// Panels of the toolkit itself, as they are where the desktop has none.
 class Sheets : public tests::WindowTest {
  protected:
-  std::string status() const { return find<QLabel>("createStatus")->text().toStdString(); }
+  Sheets() {
+    open();
+    panels.setWindow(&*window, &folder);
+  }
+
+  QFileDialog* show(const platform::OpenPanel& panel) {
+    panels.beginSheet(panel, [this](const auto& files) { chosen = files; });
+    return window->findChildren<QFileDialog*>().constLast();
+  }
+
+  QString folder;  // in which something was chosen last
+  desktop::Panels panels;
+  std::vector<platform::Location> chosen;
 };
 
-TEST_F(Sheets, TheAgreementIsLeftByItsButtonsOnly) {
-  open();
-  key(Qt::Key_H, Qt::AltModifier);
-  key(Qt::Key_B);
-  const QPointer<QWidget> sheet = find("agreementText")->window();
-  QTest::keyClick(sheet->windowHandle(), Qt::Key_Escape);
-  EXPECT_FALSE(sheet->close());  // as its frame does
-  EXPECT_TRUE(sheet->isVisible());
-  fake.said();
-  window->close();
-  EXPECT_EQ(fake.said(), "windowWillClose\n<terminate>\n");
-  click("Agree");
-  EXPECT_FALSE(sheet != nullptr && sheet->isVisible());
-}
-
-TEST_F(Sheets, LeavingTheNameEmptyIsTold) {
-  open();
-  click("bitCreate");
-  QTest::qWait(0);
-  EXPECT_EQ(status(), "");
-  key(Qt::Key_Tab);
-  EXPECT_EQ(status(), "Status: You need to enter a name!");
-}
-
 TEST_F(Sheets, ANewImageIsAddedWhereThePersonWantsIt) {
-  open();
-  click("bitCreate");
+  openBy("bitCreate");
+  EXPECT_EQ(text("createStatus"), "");
+  press("Tab");
+  EXPECT_EQ(text("createStatus"), "Status: You need to enter a name!");
   EXPECT_FALSE(find("addToList")->isVisible()) << "there is nothing to add yet";
   typeInto("createName", "fresh");
-  find<QComboBox>("createSizes")->setFocus();
-  key(Qt::Key_Down);  // to the first of the sizes
-  EXPECT_EQ(find<QLineEdit>("createSize")->text(), QLatin1String("20"));
+  enter("createSizes");
+  press("Down");
+  EXPECT_EQ(text("createSize"), "20") << "the first of the sizes";
   click("createImage");
-  EXPECT_TRUE(status().ends_with("- 20 MB Done!")) << status();
+  EXPECT_TRUE(text("createStatus").ends_with("- 20 MB Done!")) << text("createStatus");
   const QPointer<QWidget> sheet = find("createSheet");
   click("addToList");
   EXPECT_TRUE(QTest::qWaitFor([&] { return sheet.isNull(); }));
   EXPECT_EQ(fake.panels.shown, "sheet Select a volume");
   EXPECT_TRUE(fake.panels.open.chosenFile.ends_with("/fresh.dsk"));
   EXPECT_EQ(controller->volumes.volumes().size(), 0) << "it is not added by itself";
-}
-
-TEST_F(Sheets, APanelHasAFileChosenFromTheBeginning) {
-  open();
-  desktop::Panels panels;
-  panels.setWindow(&*window, &window->memory().folder);
-  const std::string image = fake.home.write("fresh.dsk", "");
-  platform::OpenPanel panel;
-  panel.chosenFile = image;
-  std::vector<platform::Location> chosen;
-  panels.beginSheet(panel, [&](const auto& files) { chosen = files; });
-  QTest::qWait(50);
-  key(Qt::Key_Return);
-  ASSERT_EQ(chosen.size(), 1);
-  EXPECT_EQ(chosen.front().path(), image);
-}
-
-TEST_F(Sheets, PressingBrowseAgainRaisesTheSameChooser) {
-  open();
-  desktop::Panels panels;
-  panels.setWindow(&*window, &window->memory().folder);
-  int answers = 0;
-  const auto begin = [&](const char* asker) {
-    platform::OpenPanel panel;
-    panel.asker = asker;
-    panels.begin(panel, [&](const auto&) { ++answers; });
-    return window->findChildren<QFileDialog*>();
-  };
-  EXPECT_EQ(begin("browseROM").size(), 1);
-  EXPECT_EQ(begin("browseROM").size(), 1);
-  const auto both = begin("rawKeyFileSelect");
-  EXPECT_EQ(both.size(), 2);
-  std::for_each(both.begin(), both.end(), [](QFileDialog* dialog) { dialog->reject(); });
-  EXPECT_EQ(answers, 2);
-  const auto again = begin("browseROM");
-  EXPECT_TRUE(
-      std::any_of(again.begin(), again.end(), [](auto* each) { return each->isVisible(); }));
 }
 
 TEST_F(Sheets, PanelsOfferWhatIsAskedForAndSpeakPlainly) {
@@ -99,21 +51,18 @@ TEST_F(Sheets, PanelsOfferWhatIsAskedForAndSpeakPlainly) {
     bool allowsMultipleSelection = false;
     QFileDialog::FileMode mode;
   };
-  const Case cases[] = {
-      {.mode = QFileDialog::ExistingFile},
-      {.allowsMultipleSelection = true, .mode = QFileDialog::ExistingFiles},
-      {.canChooseDirectories = true, .mode = QFileDialog::Directory},
-      {.canChooseFiles = false, .canChooseDirectories = true, .mode = QFileDialog::Directory}};
-  open();
-  desktop::Panels panels;
-  panels.setWindow(&*window, &window->memory().folder);
-  for (const Case& each : cases) {
+  for (const Case& each :
+       {Case{.mode = QFileDialog::ExistingFile},
+        Case{.allowsMultipleSelection = true, .mode = QFileDialog::ExistingFiles},
+        Case{.canChooseDirectories = true, .mode = QFileDialog::Directory},
+        Case{.canChooseFiles = false,
+        .canChooseDirectories = true,
+        .mode = QFileDialog::Directory}}) {
     platform::OpenPanel panel;
     panel.canChooseFiles = each.canChooseFiles;
     panel.canChooseDirectories = each.canChooseDirectories;
     panel.allowsMultipleSelection = each.allowsMultipleSelection;
-    panels.beginSheet(panel, [](const auto&) {});
-    auto* const dialog = window->findChild<QFileDialog*>();
+    auto* const dialog = show(panel);
     EXPECT_EQ(dialog->fileMode(), each.mode);
     EXPECT_NE(dialog->testOption(QFileDialog::ShowDirsOnly), each.canChooseFiles);
     auto* const message = new QMessageBox(dialog);
@@ -125,32 +74,41 @@ TEST_F(Sheets, PanelsOfferWhatIsAskedForAndSpeakPlainly) {
   }
 }
 
-/// Shows where a text was translated.
-class Brackets : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char* context, const char* text, const char* /*note*/,
-                                  int /*count*/) const override {
-    return std::string(context) == "Items"
-               ? QLatin1Char('[') + QLatin1String(text) + QLatin1Char(']')
-               : QString();
-  }
-};
+TEST_F(Sheets, PanelsOpenWhereSomethingIsSetOrWasChosenLast) {
+  const std::string image = fake.home.write("set/a.dsk", "");
+  std::filesystem::create_directory(fake.home.path("last"));
+  folder = QString::fromStdString(fake.home.path("last"));
+  platform::OpenPanel panel;
+  panel.allowedFileTypes = {"dsk"};
+  EXPECT_EQ(show(panel)->directory().path(), folder);
+  panel.directory = fake.home.path("set");
+  EXPECT_EQ(show(panel)->directory().path().toStdString(), panel.directory);
+  panel.chosenFile = image;
+  EXPECT_EQ(show(panel)->nameFilters().size(), 2) << "disk images first, all files second";
+  QTest::qWait(50);
+  press("Return");
+  ASSERT_EQ(chosen.size(), 1);
+  EXPECT_EQ(chosen.front().path(), image);
+  EXPECT_EQ(folder.toStdString(), fake.home.path("set"));
+}
 
-TEST_F(Sheets, TextsOfTheCoreAreTranslatedWhereTheyAreShown) {
-  Brackets translator;
-  QCoreApplication::installTranslator(&translator);
-  open("frameskip Dynamic\n");
-  window->completePages();
-  EXPECT_EQ(find<QComboBox>("refreshRate")->currentText(),
-            QLatin1String("Dynamic[ (from the file)]"));
-  EXPECT_EQ(find<QComboBox>("refreshRate")->itemText(0), QLatin1String("[Dynamic]"));
-  click("bitCreate");
-  typeInto("createName", "a");
-  typeInto("createSize", "0");
-  EXPECT_EQ(find<QAbstractButton>("createImage")->text(), QLatin1String("[Create]"));
-  click("createImage");
-  EXPECT_EQ(find<QAbstractButton>("createImage")->text(), QLatin1String("[Done]"));
+TEST_F(Sheets, PressingBrowseAgainRaisesTheSameChooser) {
+  int answers = 0;
+  const auto begin = [&](const char* asker) {
+    platform::OpenPanel panel;
+    panel.asker = asker;
+    panels.begin(panel, [&](const auto&) { ++answers; });
+    return window->findChildren<QFileDialog*>();
+  };
+  EXPECT_EQ(begin("browseROM").size(), 1);
+  EXPECT_EQ(begin("browseROM").size(), 1);
+  const auto both = begin("rawKeyFileSelect");
+  EXPECT_EQ(both.size(), 2);
+  for (QFileDialog* const dialog : both) {
+    dialog->reject();
+  }
+  EXPECT_EQ(answers, 2);
+  EXPECT_TRUE(begin("browseROM").constLast()->isVisible()) << "one that is closed is no hindrance";
 }
 
 }  // namespace

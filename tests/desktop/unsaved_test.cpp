@@ -1,5 +1,7 @@
-#include <QAction>
+// What a save would change, and what one has done.
+
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 #include "tests/desktop/window_fixture.h"
@@ -8,51 +10,64 @@ namespace {
 
 class Unsaved : public tests::WindowTest {
  protected:
-  QString text(const char* name) const { return find(name)->property("text").toString(); }
   bool isVisible(const char* name) const { return find(name)->isVisible(); }
+  QStringList previewed(const char* pane) const {
+    return find<QPlainTextEdit>(pane)->toPlainText().split(QLatin1Char('\n'));
+  }
 };
 
 TEST_F(Unsaved, IsCountedListedPutBackAndSaved) {
   open("cpu 3\n");
-  showTab("Machine");
   EXPECT_FALSE(isVisible("changesButton"));
   typeInto("romFile", "/my/<b>rom");
-  key(Qt::Key_Return);
   click("stateCDROM");
-  QTRY_COMPARE(text("changesButton"), QLatin1String("2 unsaved changes"));
+  expectText("changesButton", "2 unsaved changes");
   EXPECT_TRUE(find("romFile")->accessibleDescription().startsWith("Changed. Not the default. "));
 
   click("changesButton");
-  auto* const list = find<QDialog>("changesList");
+  QWidget* const list = find("changesList");
   QStringList texts;
   for (const QLabel* const label : list->findChildren<QLabel*>()) {
     texts.append(label->text());
     EXPECT_EQ(label->textFormat(), Qt::PlainText);
   }
-  const QString romDefault = QLatin1String("Put the path to your ROM file here");
-  EXPECT_TRUE(texts.contains(romDefault + QString::fromUtf8(" → /my/<b>rom")));
+  const std::string romDefault = "Put the path to your ROM file here";
+  EXPECT_TRUE(texts.contains(QString::fromStdString(romDefault + " → /my/<b>rom")));
   EXPECT_TRUE(texts.contains(QString::fromUtf8("off → on")));
   list->findChild<QPushButton*>(QLatin1String("putBack"))->click();
-  QTRY_COMPARE(text("changesButton"), QLatin1String("1 unsaved change"));
+  expectText("changesButton", "1 unsaved change");
   EXPECT_EQ(text("romFile"), romDefault);
 
   click("savePrefs");
-  QTRY_VERIFY(!isVisible("changesButton"));
-  EXPECT_TRUE(text("savedLine").startsWith(QLatin1String("Saved ")))
-      << text("savedLine").toStdString();
-  find<QAction>("resetPage")->trigger();
-  QTRY_COMPARE(text("changesButton"), QLatin1String("1 unsaved change"));
-  QTRY_VERIFY(!isVisible("savedLine"));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !isVisible("changesButton"); }));
+  EXPECT_TRUE(text("savedLine").starts_with("Saved ")) << text("savedLine");
+  reach("stateCDROM");
+  menuEntry("&Reset This Page")->trigger();
+  expectText("changesButton", "1 unsaved change");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !isVisible("savedLine"); }));
 }
 
 TEST_F(Unsaved, TellsWhetherQuillonWasStarted) {
   open();
   for (const bool starts : {true, false}) {
     fake.workspace.starts = starts;
+    typeInto("romFile", starts ? "/typed" : "/typed later");
     controller->saveAndLaunch();
+    EXPECT_EQ(value(document::Key::rom), text("romFile")) << "what is being typed is saved, too";
     const char* const told = starts ? "Quillon was started " : "Quillon was not started";
-    QTRY_VERIFY(text("savedLine").startsWith(QLatin1String(told)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return text("savedLine").starts_with(told); }));
   }
+}
+
+TEST_F(Unsaved, APreviewShowsWhatASaveWouldDoAndWritesNothing) {
+  const std::string before = "# mine\nramsize 8388608\ncpu 3\n";
+  open(before);
+  typeInto("romFile", "/typed/<b>just now");
+  menuEntry("Pre&view…")->trigger();
+  EXPECT_EQ(previewed("previewNow"), QStringList({"- # mine", "  ramsize 8388608", "  cpu 3"}));
+  EXPECT_TRUE(previewed("previewAfter").contains("+ rom /typed/<b>just now"));
+  EXPECT_TRUE(previewed("previewAfter").contains("  ramsize 8388608"));
+  EXPECT_EQ(file(), before);
 }
 
 }  // namespace

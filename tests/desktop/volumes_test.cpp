@@ -1,5 +1,9 @@
+// The list of disk images.
+
+#include <QClipboard>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMimeData>
 #include <QTableView>
 #include <QTimer>
@@ -9,18 +13,18 @@
 
 namespace {
 
-constexpr auto control = Qt::ControlModifier;
-
 class Volumes : public tests::WindowTest {
  protected:
   void openDisks(const std::string& letters) {
-    std::string text;
+    std::string lines;
     for (const char letter : letters) {
-      text += std::string("disk /") + letter + "\n";
+      lines += std::string("disk /") + letter + "\n";
     }
-    open(text);
+    openList(lines);
+  }
+  void openList(const std::string& preferences) {
+    open(preferences);
     table = find<QTableView>("tableView");
-    table->setFocus();
   }
 
   QModelIndex cell(int row, int column = 0) const { return table->model()->index(row, column); }
@@ -34,35 +38,66 @@ class Volumes : public tests::WindowTest {
     return letters;
   }
 
+  /// The rows that are selected, in the same way.
+  std::string selected() const {
+    std::set<char> letters;
+    for (const QModelIndex& index : table->selectionModel()->selectedRows()) {
+      letters.insert(index.data().toString().back().toLatin1());
+    }
+    return {letters.begin(), letters.end()};
+  }
+
   void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) const {
     QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers,
                       table->visualRect(cell(row)).center());
   }
 
+  /// Opens the context menu as the keys for it do, and runs one of its entries.
+  void choose(const char* entry) const {
+    press("Shift+F10");
+    auto* const action = find<QMenu>("volumeMenu")->findChild<QAction*>(QLatin1String(entry));
+    ASSERT_TRUE(action->isEnabled()) << entry;
+    action->trigger();
+    press("Escape");  // also ends the Shift above, with which selecting would toggle
+    QTest::qWait(0);  // until it is gone
+  }
+
   QTableView* table = nullptr;
 };
 
-TEST_F(Volumes, ShowsAPictureAPathASizeAndAKind) {
+TEST_F(Volumes, ShowWhatTheyAreAndWhatIsMissing) {
   const std::string picture = "QuillonSettings.app/Contents/Resources/HappyMac.png";
   std::filesystem::copy_file(QUILLON_SOURCE "/resources/HappyMac.png", fake.home.path(picture));
   const std::string image = fake.home.write("a <b>.dsk", std::string(1'474'560, '\0'));
-  open("disk " + image + "\ndisk here.dsk\n");
-  table = find<QTableView>("tableView");
-  const char* const titles[] = {"Disk image", "Size", "Kind"};
-  const char* const texts[] = {image.c_str(), "1.5 MB", "Disk Image"};
-  for (int column = 0; column < table->model()->columnCount(); ++column) {
-    EXPECT_EQ(cell(0, column).data().toString().toStdString(), texts[column]);
-    const QVariant title = table->model()->headerData(column, Qt::Horizontal);
-    EXPECT_EQ(title.toString(), QLatin1String(titles[column]));
-    const QVariant side = cell(0, column).data(Qt::TextAlignmentRole);
-    EXPECT_EQ(side, table->model()->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole));
-    EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, column == 1) << "numbers end at the right";
+  openList("disk " + image + "\ndisk /gone.dsk\n");
+  struct Column {
+    const char* title;
+    std::string text;
+    bool endsAtRight = false;
+  };
+  int number = 0;
+  for (const auto& [title, text, endsAtRight] :
+       {Column{.title = "Disk image", .text = image},
+        Column{.title = "Size", .text = "1.5 MB", .endsAtRight = true},
+        Column{.title = "Kind", .text = "Disk Image"}}) {
+    const auto headed = [&](int role) {
+      return table->model()->headerData(number, Qt::Horizontal, role);
+    };
+    EXPECT_EQ(headed(Qt::DisplayRole).toString(), QLatin1String(title));
+    EXPECT_EQ(cell(0, number).data().toString().toStdString(), text);
+    const QVariant side = cell(0, number).data(Qt::TextAlignmentRole);
+    EXPECT_EQ(side, headed(Qt::TextAlignmentRole));
+    EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, endsAtRight);
+    ++number;
   }
-  EXPECT_EQ(cell(1, 2).data().toString(), QLatin1String("No Path!"));
   EXPECT_FALSE(cell(0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).isNull());
-  EXPECT_FALSE(cell(0, 1).data(Qt::DecorationRole).isValid());
   EXPECT_GT(table->columnWidth(0), table->columnWidth(1) + table->columnWidth(2));
-  EXPECT_FALSE(table->model()->data(QModelIndex(), Qt::DisplayRole).isValid());
+  expectText("volumesSummary", "2 disk images, 1.5 MB, 1 missing");
+  EXPECT_EQ(cell(0).data(Qt::AccessibleDescriptionRole), QString());
+  EXPECT_EQ(cell(1).data(Qt::AccessibleDescriptionRole), QLatin1String("This file is missing."));
+  table->selectRow(1);
+  click("removeVol");
+  expectText("volumesSummary", "1 disk image, 1.5 MB");
 }
 
 TEST_F(Volumes, KeysAndClicks) {
@@ -72,7 +107,7 @@ TEST_F(Volumes, KeysAndClicks) {
   for (const tests::Case& each :
        tests::cases("volume-keys.txt", {"click row", "held", "press", "button", "list"})) {
     if (each.has("click row")) {
-      const Qt::KeyboardModifiers held = each["held"] == "Ctrl"    ? control
+      const Qt::KeyboardModifiers held = each["held"] == "Ctrl"    ? Qt::ControlModifier
                                          : each["held"] == "Shift" ? Qt::ShiftModifier
                                                                    : Qt::NoModifier;
       clickRow(std::stoi(each["click row"]) - 1, held);
@@ -90,6 +125,75 @@ TEST_F(Volumes, KeysAndClicks) {
   EXPECT_EQ(order(), "CE") << "nothing is selected";
   press("Ctrl+S");
   EXPECT_TRUE(file().starts_with("disk /C\ndisk /E\nextfs "));
+}
+
+TEST_F(Volumes, TheKeyboardFindsARowSelectedAtFirst) {
+  openDisks("ABC");
+  fake.said();
+  enter("tableView");
+  EXPECT_EQ(selected(), "A");
+  EXPECT_EQ(fake.said(), "") << "a selection prints nothing";
+  table->clearSelection();
+  enter("browseFile");
+  enter("tableView");
+  EXPECT_EQ(selected(), "") << "the second time it stays as it is";
+}
+
+TEST_F(Volumes, AddedRowsAreSelectedAndSeen) {
+  openDisks(std::string(50, 'A'));
+  const auto location = [](const char* path) { return platform::Location::fromPath(path); };
+  fake.panels.answers = {{location("/X"), location("/Y")}};
+  click("browseFile");
+  EXPECT_EQ(selected(), "XY");
+  EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(cell(51)).center()));
+}
+
+TEST_F(Volumes, TheButtonsMoveAsTheKeysDo) {
+  openDisks("ABC");
+  const QWidget* const up = find("moveUp");
+  const QWidget* const down = find("moveDown");
+  EXPECT_FALSE(up->isEnabled() || down->isEnabled()) << "nothing is selected";
+  clickRow(1);
+  fake.said();
+  press("Alt+Up");
+  const std::string saidByKey = fake.said();
+  EXPECT_FALSE(up->isEnabled()) << "it is the first one";
+  click("moveDown");
+  fake.said();
+  click("moveUp");
+  EXPECT_EQ(fake.said(), saidByKey);
+  click("moveDown");
+  enter("moveDown");
+  press("Space");
+  EXPECT_EQ(order(), "ACB");
+  EXPECT_EQ(QApplication::focusWidget(), table) << "a disabled button must not pass it on";
+}
+
+TEST_F(Volumes, TheContextMenuActsOnTheSelectedRows) {
+  openDisks("ABC");
+  enter("tableView");
+  choose("moveDown");
+  EXPECT_EQ(order(), "BAC");
+  table->selectAll();
+  choose("copyPath");
+  EXPECT_EQ(QApplication::clipboard()->text(), QLatin1String("/B\n/A\n/C"));
+  table->selectRow(2);
+  choose("removeVol");
+  EXPECT_EQ(order(), "BA");
+}
+
+TEST_F(Volumes, AnEmptyListHasLinksForTheKeyboard) {
+  open("ramsize 8388608\n");
+  enter("tableView");
+  press("Tab");
+  EXPECT_EQ(QApplication::focusWidget(), find("addLink"));
+  press("Tab");
+  EXPECT_EQ(QApplication::focusWidget(), find("newImageLink"));
+  press("Backtab");
+  fake.panels.answers = {{platform::Location::fromPath("/new")}};
+  press("Space");
+  EXPECT_FALSE(find("addLink")->isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), find("tableView"));
 }
 
 TEST_F(Volumes, RowsOfAnotherWindowAreRefused) {
@@ -126,16 +230,15 @@ TEST_F(Volumes, RowsAreDraggedBetweenRows) {
     window->resize(800, 800);  // all rows are seen, whatever the font
     QTest::qWait(0);
     for (const int row : selected) {
-      clickRow(row, row == selected.front() ? Qt::NoModifier : control);
+      clickRow(row, row == selected.front() ? Qt::NoModifier : Qt::ControlModifier);
     }
     QWindow* const screen = window->windowHandle();
     const auto at = [&](QPoint point) { return table->viewport()->mapTo(&*window, point); };
     const QPoint start = at(table->visualRect(cell(selected.back())).center());
     const QRect rect = table->visualRect(cell(target));
     const int edge = place == Place::below ? rect.bottom() : rect.top();
-    const QPoint end = at({rect.center().x(), place == Place::on      ? rect.center().y()
-                                              : place == Place::below ? edge - 1
-                                                                      : edge + 1});
+    const int inside = std::clamp(edge, rect.top() + 1, rect.bottom() - 1);
+    const QPoint end = at({rect.center().x(), place == Place::on ? rect.center().y() : inside});
     bool line = false;
     QTest::mousePress(screen, Qt::LeftButton, {}, start);
     QTest::mouseMove(screen, start + QPoint(4, 0));

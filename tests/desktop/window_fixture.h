@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "desktop/application.h"
+#include "desktop/lead_to.h"
 #include "desktop/settings_window.h"
 #include "document/key_table.h"
 #include "editor/view_controller.h"
@@ -33,12 +34,20 @@ struct TestedApplication : desktop::Application {
 /// The settings window over a home of its own, driven as a person does.
 class WindowTest : public testing::Test {
  protected:
-  void open(const std::string& preferences = {}) {
+  void open(const std::string& preferences = {},
+            const desktop::FactsSource& facts = checks::gather) {
+    openFirstPage(preferences, facts);
+    window->completePages();
+  }
+
+  /// As it is until it has been painted for the first time.
+  void openFirstPage(const std::string& preferences = {},
+                     const desktop::FactsSource& facts = checks::gather) {
     fake.home.write(FakeHost::prefs, preferences);
     window.reset();
     controller.emplace(fake.host(application));
     controller->viewDidLoad();
-    window.emplace(*controller, fake.host(application), application.edits);
+    window.emplace(*controller, fake.host(application), application.edits, facts);
     window->show();
     activate(&*window);
   }
@@ -61,31 +70,41 @@ class WindowTest : public testing::Test {
 
   QTabWidget* tabs() const { return find<QTabWidget>("tabViewC"); }
 
-  void showTab(const char* label) const {
-    for (int tab = 0; tab < tabs()->count(); ++tab) {
-      if (tabs()->tabText(tab) == QLatin1String(label)) {
-        tabs()->setCurrentIndex(tab);
-      }
-    }
+  /// The same, seen: its tab is in front.
+  QWidget* reach(const char* name) const {
+    QWidget* const widget = find(name);
+    tabs()->setCurrentIndex(desktop::tabOf(*tabs(), widget));  // of none: stays
+    return widget;
+  }
+  QWidget* enter(const char* name) const {
+    QWidget* const widget = reach(name);
+    widget->setFocus(Qt::TabFocusReason);
+    return widget;
   }
 
-  void showTabOf(const QWidget* widget) const {
-    for (int tab = 0; tab < tabs()->count(); ++tab) {
-      if (tabs()->widget(tab)->isAncestorOf(widget)) {
-        tabs()->setCurrentIndex(tab);
-      }
-    }
+  std::string text(const char* name) const {
+    return find(name)->property("text").toString().toStdString();
+  }
+  /// Waits until a widget shows a text.
+  void expectText(const char* name, const std::string& wanted) const {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return text(name) == wanted; }))
+        << name << " shows " << text(name);
   }
 
-  /// Keys go to the window that has the focus, as they do from a keyboard.
-  static void key(int code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(front(), static_cast<Qt::Key>(code), modifiers);
+  QAction* menuEntry(const char* text) const {
+    for (QAction* const entry : window->findChildren<QAction*>()) {
+      if (entry->text() == QString::fromUtf8(text)) {
+        return entry;
+      }
+    }
+    throw std::logic_error(std::string("no menu entry ") + text);
   }
-  /// Presses a key as it is written in menus: "Ctrl+S".
+
+  /// Presses a key as it is written in menus: "Ctrl+S". Keys go to the window that has the focus.
   static void press(const std::string& keys) {
     const QKeyCombination pressed = QKeySequence(QString::fromStdString(keys))[0];
     ASSERT_NE(pressed.key(), Qt::Key_unknown) << keys;
-    key(pressed.key(), pressed.keyboardModifiers());
+    QTest::keyClick(front(), pressed.key(), pressed.keyboardModifiers());
   }
   static void type(const char* text) {
     for (; *text != '\0'; ++text) {
@@ -98,7 +117,7 @@ class WindowTest : public testing::Test {
   }
 
   void click(const char* name) const {
-    QWidget* const widget = find(name);
+    QWidget* const widget = reach(name);
     ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << name;
     // Behind its text a check box does not answer.
     const bool checkable = widget->property("checkable").toBool();
@@ -109,10 +128,24 @@ class WindowTest : public testing::Test {
 
   /// Replaces the text of a field, without ending the edit.
   void typeInto(const char* name, const char* text) const {
-    find(name)->setFocus();
-    key(Qt::Key_A, Qt::ControlModifier);
-    key(Qt::Key_Backspace);
+    enter(name);
+    press("Ctrl+A");
+    press("Backspace");
     type(text);
+  }
+
+  /// Presses a button and returns the window that it opens.
+  QWidget* openBy(const char* button) const {
+    click(button);
+    QTest::qWait(0);
+    EXPECT_NE(QApplication::activeWindow(), &*window) << button;
+    return QApplication::activeWindow();
+  }
+  /// Leaves such a window by a key.
+  void leaveBy(const char* keys) {
+    press(keys);
+    QTest::qWait(0);
+    activate(&*window);
   }
 
   std::string file() const { return fake.home.read(fake.prefs); }

@@ -21,21 +21,8 @@ namespace fs = std::filesystem;
 
 class Windows : public tests::WindowTest {
  protected:
-  void openBy(const char* button) {
-    click(button);
-    QTest::qWait(0);
-    ASSERT_NE(QApplication::activeWindow(), &*window);
-  }
-  void leave(int code) {
-    key(code);
-    QTest::qWait(0);
-    activate(&*window);
-  }
   static std::string frontWindow() {
     return tests::described(*QApplication::activeWindow(), [](const QWidget*) { return true; });
-  }
-  std::string text(const char* name) const {
-    return find(name)->property("text").toString().toStdString();
   }
   bool isOn(const char* name) const { return find<QAbstractButton>(name)->isChecked(); }
 };
@@ -62,22 +49,21 @@ TEST_F(Windows, StatusColoursAreReadableOnEveryBackground) {
 TEST_F(Windows, TheSmallOnesReadAsDescribed) {
   open();
   tests::Golden golden("windows/others.txt", fake.home.path());
-  for (const char* const opening : {"openPreferences", "bitCreate"}) {
-    openBy(opening);
-    golden.expect(opening, frontWindow());
-    EXPECT_EQ(tests::doubleLetters(tests::reachedByLetter(*QApplication::activeWindow())), "");
-    leave(Qt::Key_Escape);
+  for (const char* const entry : {"&Preferences…", "&New Blank Image…", "&Diagnostics…"}) {
+    menuEntry(entry)->trigger();
+    QTest::qWait(0);
+    golden.expect(entry, frontWindow());
+    leaveBy("Escape");
   }
-  for (QAction* const entry : window->findChildren<QAction*>()) {
-    if (entry->text().contains(QLatin1String("Agreement"))) {
-      entry->trigger();
-    }
-  }
-  QTest::qWait(0);
-  golden.expect("Beta Agreement", frontWindow());
-  EXPECT_EQ(QApplication::focusWidget(), find("Agree"));
+  press("Alt+H");
+  press("B");
+  golden.expect("&Beta Agreement…", frontWindow());
+  const QPointer<QWidget> agreement = QApplication::activeWindow();
+  press("Escape");
+  EXPECT_FALSE(agreement->close()) << "as its frame does";
+  EXPECT_TRUE(agreement->isVisible()) << "only its buttons end it";
   fake.said();
-  leave(Qt::Key_Return);
+  leaveBy("Return");
   EXPECT_EQ(fake.said(), "Agree\n");
 }
 
@@ -98,10 +84,9 @@ TEST_F(Windows, ImagesAreMadeOrRefusedWithAReason) {
     const bool made = each.has("makes MB");
     const std::string image = each["name"] + ".dsk";
     openBy("bitCreate");
-    EXPECT_EQ(text("createImage"), "Create");
     typeInto("createName", each["name"].c_str());
     typeInto("createSize", each["size"].c_str());
-    key(Qt::Key_Return);
+    press("Return");
     EXPECT_TRUE(text("createStatus").starts_with("Status: " + each["status"]))
         << text("createStatus");
     const QColor color = find("createStatus")->palette().color(QPalette::WindowText);
@@ -111,14 +96,12 @@ TEST_F(Windows, ImagesAreMadeOrRefusedWithAReason) {
     if (made) {
       EXPECT_TRUE(fake.home.read(image) == std::string(std::stoul(each["makes MB"]) << 20U, '\0'));
     }
-    leave(made ? Qt::Key_Return : Qt::Key_Escape);  // Return presses Done
+    leaveBy(made ? "Return" : "Escape");  // Return presses Done
   }
   ::setrlimit(RLIMIT_FSIZE, &limit);
-  EXPECT_EQ(controller->volumes.volumes().size(), 0U) << "images are not listed by themselves";
 }
 
 TEST_F(Windows, ThePreferencesFollowEachChoice) {
-  open();
   tests::Golden golden("windows/choices.txt", fake.home.path());
   const auto expectAfter = [&](const std::string& step) {
     golden.expect(step, fake.said() + "Quillon is at \"" + sharedVar::pathToQuil + "\", mode " +
@@ -126,30 +109,31 @@ TEST_F(Windows, ThePreferencesFollowEachChoice) {
                             (sharedVar::startState ? "enabled" : "disabled") + ".\n" +
                             frontWindow());
   };
-  const auto open = [&](const std::string& location, std::int64_t mode) {
-    if (QApplication::activeWindow() != &*window) {
-      leave(Qt::Key_Escape);
-    }
+  struct Opened {
+    const char* location;
+    int mode;
+  };
+  for (const auto& [location, mode] :
+       {Opened{.location = "/o/Quillon.app", .mode = 7},
+        Opened{.location = "/o/Quillon.app", .mode = 1},
+        Opened{.location = "/o/Quillon.app", .mode = 2}, Opened{.location = "", .mode = 2}}) {
+    open();
     sharedVar::pathToQuil = location;
     sharedVar::startFlag = mode;
     sharedVar::startState = false;
     fake.said();
     openBy("openPreferences");
-    expectAfter("Opened with \"" + location + "\" and mode " + std::to_string(mode));
-  };
-  for (const int mode : {7, 1, 2}) {
-    open("/o/Quillon.app", mode);
+    expectAfter("Opened with \"" + sharedVar::pathToQuil + "\" and mode " + std::to_string(mode));
   }
-  open("", 2);
   for (const char* const name : {"testLaunch", "quilLocal", "quilOff", "quilCustom"}) {
     click(name);
     expectAfter(std::string("Then a click on ") + name);
   }
   typeInto("Quillon", "/x/quillon.app");
-  key(Qt::Key_Return);
+  press("Return");
   expectAfter("Then /x/quillon.app is typed");
   typeInto("Quillon", "/x/Quillon");
-  key(Qt::Key_Tab);
+  press("Tab");
   expectAfter("Then /x/Quillon is typed");
   for (const char* const path : {"/y/Quillon 2", "/y/other"}) {
     fake.panels.answers.push_back({platform::Location::fromPath(path)});
@@ -168,41 +152,42 @@ TEST_F(Windows, ThePreferencesFollowEachChoice) {
 TEST_F(Windows, OnlyDoneAppliesAndStoresAndTheScsiTabKeepsWhatIsOnIt) {
   open();
   const std::string before = fake.home.read(fake.settings);
-  const auto done = [this] {
-    click("Done");
-    QTest::qWait(0);
-    activate(&*window);
-  };
-  openBy("openPreferences");
-  QWidget* const first = QApplication::activeWindow();
+  const QWidget* const first = openBy("openPreferences");
   window->activateWindow();
-  openBy("openPreferences");
-  EXPECT_EQ(QApplication::activeWindow(), first) << "there is one at a time";
+  EXPECT_EQ(openBy("openPreferences"), first) << "there is one at a time";
   for (const char* const name : {"quilOff", "SCSItab", "quitOnStart"}) {
     click(name);
   }
-  leave(Qt::Key_Escape);
+  leaveBy("Escape");
   EXPECT_EQ(tabs()->count(), 6);
   EXPECT_TRUE(find("startQuil")->isEnabled());
   EXPECT_EQ(fake.home.read(fake.settings), before);
   openBy("openPreferences");
   EXPECT_TRUE(isOn("SCSItab") && isOn("quitOnStart") && isOn("quilOff"));
-  done();
-  EXPECT_FALSE(find("startQuil")->isEnabled());
+  leaveBy("Return");  // presses Done
   EXPECT_NE(fake.home.read(fake.settings), before);
-  showTab("SCSI");
+  EXPECT_FALSE(find("startQuil")->isEnabled() || menuEntry("S&tart")->isEnabled());
+  EXPECT_TRUE(find("startQuil")->toolTip().contains(QLatin1String("choose where Quillon is")));
   click("scsiID0");
   for (const int count : {6, 7}) {
     openBy("openPreferences");
     click("SCSItab");
-    done();
+    leaveBy("Return");
     EXPECT_EQ(tabs()->count(), count);
   }
-  showTab("SCSI");
-  EXPECT_TRUE(find("scsiID0")->isVisible() && isOn("scsiID0"));
+  EXPECT_TRUE(isOn("scsiID0"));
   open();
   EXPECT_EQ(tabs()->tabText(1), QLatin1String("SCSI"));
   EXPECT_FALSE(find("startQuil")->isEnabled());
+}
+
+TEST_F(Windows, AFieldThatCannotBeTypedIntoLooksSo) {
+  open();
+  openBy("openPreferences");
+  click("quilCustom");
+  const QColor writable = find("Quillon")->palette().color(QPalette::Base);
+  click("quilLocal");
+  EXPECT_NE(find("Quillon")->palette().color(QPalette::Base), writable);
 }
 
 }  // namespace
