@@ -13,6 +13,7 @@ namespace {
 constexpr int usualLines = 3;
 constexpr int mostLines = 6;
 constexpr int margin = 6;                // pixels
+constexpr int gap = 3;                   // above the small print
 constexpr double smallPrintSize = 0.85;  // of the usual size
 
 QLabel* part(QWidget* pane, const char* name) {
@@ -58,9 +59,11 @@ void HelpPane::explain(const QWidget* widget) {
   });
   if (place != settings_.end()) {
     const Help help = helpOf(*place->setting);
-    show(place->title, help.use + QLatin1Char('\n') + help.usual, help.written);
+    explained_ = place->setting;
+    show(place->title, help.use + QLatin1Char('\n') + help.usual);
     return;
   }
+  explained_ = nullptr;
   while (widget != nullptr && widget->whatsThis().isEmpty() && !widget->isWindow()) {
     widget = widget->parentWidget();
   }
@@ -69,11 +72,22 @@ void HelpPane::explain(const QWidget* widget) {
   } else {
     const QString name = widget->accessibleName();
     show(name.isEmpty() ? plainText(widget->property("text").toString()) : name,
-         widget->whatsThis(), {});
+         widget->whatsThis());
   }
 }
 
-void HelpPane::show(const QString& name, const QString& text, const QString& smallPrint) {
+void HelpPane::tell(const QString& text) {
+  explained_ = nullptr;
+  show({}, text);
+}
+
+void HelpPane::refresh() {
+  if (explained_ != nullptr) {
+    showLine();
+  }
+}
+
+void HelpPane::show(const QString& name, const QString& text) {
   // Before there is something to show, no other font is loaded.
   if (!name.isEmpty() && name_->text().isEmpty()) {
     QFont heading = font();
@@ -87,7 +101,6 @@ void HelpPane::show(const QString& name, const QString& text, const QString& sma
   }
   name_->setText(name);
   text_->setText(text);
-  smallPrint_->setText(smallPrint);
   // A narrow window with large letters gets more, and keeps it.
   if (isVisible()) {
     const int needed = text_->heightForWidth(text_->width()) / fontMetrics().lineSpacing();
@@ -99,13 +112,29 @@ void HelpPane::show(const QString& name, const QString& text, const QString& sma
 // The same height always: nothing moves when the texts change.
 void HelpPane::arrange() {
   const int line = fontMetrics().lineSpacing();
-  setFixedHeight((lines_ + 2) * line + 2 * (margin + frameWidth()));
+  setFixedHeight((lines_ + 2) * line + gap + 2 * (margin + frameWidth()));
   QRect room = contentsRect().adjusted(margin, margin, -margin, -margin);
   name_->setGeometry(room.left(), room.top(), room.width(), line);
   smallPrint_->setGeometry(room.left(), room.bottom() + 1 - line, room.width(), line);
   // What has no name is told from the top.
   room.setTop(name_->text().isEmpty() ? room.top() : room.top() + line);
   text_->setGeometry(room.left(), room.top(), room.width(), lines_ * line);
+  showLine();
+}
+
+void HelpPane::showLine() {
+  if (explained_ == nullptr) {
+    smallPrint_->clear();
+    return;
+  }
+  QStringList lines;
+  for (const std::string& line : explained_->linesToSave()) {
+    lines.append(leftToRight(toQString(line)));
+  }
+  // A path may be longer than the pane is wide.
+  smallPrint_->setText(smallPrint_->fontMetrics().elidedText(
+      tr("In the file: %1").arg(lines.join(QStringLiteral(" · "))), Qt::ElideMiddle,
+      smallPrint_->width()));
 }
 
 void HelpPane::resizeEvent(QResizeEvent* event) {

@@ -8,7 +8,7 @@
 namespace desktop {
 
 /// Explains the widget under the mouse, else the one with the focus: its name, what it does and
-/// what to leave it at, and in small print what is written to the file.
+/// what to leave it at, and in small print the line that a save writes for it.
 class HelpPane : public QFrame {
   Q_OBJECT
 
@@ -25,7 +25,10 @@ class HelpPane : public QFrame {
   void follow(QWidget* parent);
 
   /// Shows a text until there is something else to explain.
-  void tell(const QString& text) { show({}, text, {}); }
+  void tell(const QString& text);
+
+  /// Brings the line of the file up to date after a change.
+  void refresh();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,10 +36,12 @@ class HelpPane : public QFrame {
 
  private:
   void explain(const QWidget* widget);
-  void show(const QString& name, const QString& text, const QString& smallPrint);
+  void show(const QString& name, const QString& text);
+  void showLine();
   void arrange();
 
   const SettingWidgets& settings_;
+  const editor::Setting* explained_ = nullptr;
   QLabel* name_;
   QLabel* text_;
   QLabel* smallPrint_;

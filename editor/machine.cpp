@@ -223,6 +223,10 @@ bool ProcessorSetting::isDefault() const {
   return PopUpSetting::isDefault() && cpu() == document::rowOf(Key::cpu).defaultValue;
 }
 
+std::vector<std::string> ProcessorSetting::linesToSave() const {
+  return {document::Preferences::line(Key::cpu, cpu()), PopUpSetting::linesToSave().front()};
+}
+
 void ProcessorSetting::reset() {
   group().preferences.setValue(Key::cpu, std::string(document::rowOf(Key::cpu).defaultValue));
   PopUpSetting::reset();

@@ -92,6 +92,7 @@ class ProcessorSetting : public PopUpSetting {
   [[nodiscard]] std::string shownDefault() const override;
 
   [[nodiscard]] bool isDefault() const override;
+  [[nodiscard]] std::vector<std::string> linesToSave() const override;
 
   /// What the button shows for a pair of values.
   [[nodiscard]] std::string shownPair(std::string_view cpu, std::string_view fpu) const;

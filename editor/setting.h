@@ -117,6 +117,11 @@ class Setting {
   /// The value that a save would write now.
   [[nodiscard]] virtual std::string valueToSave() const { return value(); }
 
+  /// The lines that a save would write for what the control shows, one for each of its keys.
+  [[nodiscard]] virtual std::vector<std::string> linesToSave() const {
+    return {document::Preferences::line(key_, valueToSave())};
+  }
+
  protected:
   virtual void lookUp() { group_.preferences.lookUp(key_, announcement_.found); }
 

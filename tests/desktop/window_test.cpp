@@ -95,11 +95,15 @@ TEST_F(Window, ExplainsWhatHasTheFocusOrThePointer) {
     expectHelp("Model",
                "The model that the Macintosh says it is. Mac OS 8 needs the Quadra.\n"
                "If unsure, leave it at \"Macintosh IIci\".",
-               "Writes \"modelid\", as a model number.");
+               "In the file: modelid 5");
   };
   const auto* const general = "Move to a setting to read here what it does.";
   expectHelp("", general, "");
   enter("modelID");
+  press("Down");
+  expectText("helpFile", "In the file: modelid 14");
+  press("Up");
+  expectText("helpFile", "In the file: modelid 5");
   expectModel();
   EXPECT_EQ(find("modelID")->toolTip(),
             QLatin1String("<p>The model that the Macintosh says it is.</p>"));
