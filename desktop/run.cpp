@@ -18,14 +18,18 @@ namespace desktop {
 
 namespace {
 
-// English needs no file. What counts is the first language that a person wants to read, which need
-// not be that of numbers and dates.
+// Takes the first of the languages that a person wants to read for which there is a file. English
+// needs none: QTranslator::load, given the whole list, would go on behind it.
 void translate(QTranslator& translator, const char* name, const QString& folder) {
-  const QLocale locale;
-  const auto first = QLocale(locale.uiLanguages().value(0)).language();
-  if (first != QLocale::English && first != QLocale::C &&
-      translator.load(locale, QLatin1String(name), QLatin1String("_"), folder)) {
-    QCoreApplication::installTranslator(&translator);
+  for (const QString& wanted : QLocale().uiLanguages()) {
+    const QLocale language(wanted);
+    if (language.language() == QLocale::English || language.language() == QLocale::C) {
+      return;
+    }
+    if (translator.load(language, QLatin1String(name), QLatin1String("_"), folder)) {
+      QCoreApplication::installTranslator(&translator);
+      return;
+    }
   }
 }
 
