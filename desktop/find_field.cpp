@@ -22,6 +22,35 @@ class HitCompleter : public QCompleter {
   }
 };
 
+// Ends where the field does. QCompleter lets a list begin where its field does; one that is wider
+// would reach beyond the window.
+class HitList : public QListView {
+ public:
+  explicit HitList(const QWidget& field) : field_(field) {}
+
+ protected:
+  void showEvent(QShowEvent* event) override {
+    QListView::showEvent(event);
+    align();
+  }
+
+  void moveEvent(QMoveEvent* event) override {
+    QListView::moveEvent(event);
+    align();
+  }
+
+ private:
+  void align() {
+    const QRect field(field_.mapToGlobal(QPoint()), field_.size());
+    const int left = isRightToLeft() ? field.left() : field.right() + 1 - width();
+    if (left != x()) {
+      move(left, y());
+    }
+  }
+
+  const QWidget& field_;
+};
+
 }  // namespace
 
 FindField::FindField(std::function<SearchIndex()> collect) : collect_(std::move(collect)) {
@@ -92,7 +121,9 @@ void FindField::buildList() {
   list->setCompletionRole(SearchHits::searchedRole);
   list->setFilterMode(Qt::MatchContains);
   list->setMaxVisibleItems(12);
-  auto* const rows = qobject_cast<QListView*>(list->popup());
+  auto* const rows = new HitList(*this);
+  list->setPopup(rows);
+  rows->setEditTriggers(QAbstractItemView::NoEditTriggers);
   rows->setUniformItemSizes(true);
   rows->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   rows->setItemDelegate(new SearchHitDelegate(rows));

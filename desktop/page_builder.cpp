@@ -13,6 +13,17 @@ namespace {
 // In French a space goes before the colon.
 QString caption(const QString& label) { return tr("%1:").arg(label); }
 
+// Would like to be as wide as a line that can be read well. It takes more only where its widgets
+// cannot do with less.
+class Column : public QWidget {
+ public:
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int longestLine = 70;  // letters
+    const int width = longestLine * fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    return QSize(width, QWidget::sizeHint().height()).expandedTo(minimumSizeHint());
+  }
+};
+
 }  // namespace
 
 void PageBuilder::addSettingWidget(editor::Setting& setting, const QString& label,
@@ -109,7 +120,7 @@ void PageBuilder::screen(editor::ScreenSetting& setting) {
 }
 
 QWidget* PageBuilder::sections() {
-  auto* const column = new QWidget;
+  auto* const column = new Column;
   auto* const layout = new QVBoxLayout(column);
   layout->setContentsMargins(0, 0, 0, 0);
   for (Section* const section : sections_) {
@@ -123,13 +134,9 @@ QWidget* PageBuilder::sections() {
 }
 
 QWidget* PageBuilder::page() {
-  constexpr int longestLine = 70;  // letters
   auto* const page = new QWidget;
-  QWidget* const column = sections();
-  column->setMaximumWidth(longestLine * column->fontMetrics().horizontalAdvance(QLatin1Char('0')));
   auto* const layout = new QGridLayout(page);
-  layout->addWidget(column, 0, 0);
-  layout->setColumnStretch(0, 100);
+  layout->addWidget(sections(), 0, 0);
   layout->setColumnStretch(1, 1);  // takes what is left over
   layout->setRowStretch(1, 1);
   return page;
