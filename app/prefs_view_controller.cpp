@@ -5,6 +5,7 @@
 
 #include "app/emulator_location.h"
 #include "app/shared_var.h"
+#include "platform/translatable.h"
 
 namespace app {
 namespace {
@@ -123,7 +124,7 @@ void prefsViewController::QuilApp() {
 
 void prefsViewController::chooseApplication() {
   platform::OpenPanel panel;
-  panel.title = "Choose Quillon";
+  panel.title = platform::translatable("Panels", "Choose Quillon");
   panel.canChooseDirectories = true;  // a bundle is a folder
   panel.directory = std::filesystem::path(sharedVar::pathToQuil).parent_path().string();
   const auto answer = [this, alive = std::weak_ptr(alive_)](const auto& chosen) {

@@ -5,10 +5,26 @@
 #include <QVBoxLayout>
 
 #include "app/emulator_location.h"
+#include "desktop/sizes.h"
 #include "desktop/texts.h"
 #include "platform/byte_count.h"
 
 namespace desktop {
+
+namespace {
+
+// QFormLayout keeps a label lower than a tall field, and its text above that of the field.
+void centreLabels(const QFormLayout& form) {
+  for (int row = 0; row < form.rowCount(); ++row) {
+    const QLayoutItem* const label = form.itemAt(row, QFormLayout::LabelRole);
+    if (label != nullptr) {
+      label->widget()->setMinimumHeight(
+          form.itemAt(row, QFormLayout::FieldRole)->sizeHint().height());
+    }
+  }
+}
+
+}  // namespace
 
 CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folder, Edits& edits,
                          AddToList add, QWidget* parent)
@@ -23,6 +39,7 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
   setAttribute(Qt::WA_DeleteOnClose);
 
   auto* const form = new QFormLayout;
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   const QString nameHelp = tr("The name of the disk image, without \".dsk\".");
   QLineEdit* const name =
       controls_.lineEdit(controller_.createName, nameHelp, PendingEdit::Commits::always);
@@ -30,6 +47,7 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
   form->addRow(tr("&Name:"), name);
   addSize(*form);
   addFolder(*form);
+  centreLabels(*form);
 
   QPushButton* const create = controls_.pushButton(
       controller_.createImage, QString(), tr("Makes the image, and then closes this sheet."));
@@ -120,8 +138,7 @@ void CreateSheet::showFolder() {
     platform::ByteCountFormatter formatter;
     formatter.countStyle = platform::ByteCountFormatter::CountStyle::memory;
     const auto bytes = static_cast<std::int64_t>(*folder.freeBytes);
-    sentences +=
-        tr("Free space: %1").arg(leftToRight(toQString(formatter.stringFromByteCount(bytes))));
+    sentences += tr("Free space: %1").arg(translatedSize(formatter.stringFromByteCount(bytes)));
   }
   folderNote_->show(sentences.join(QLatin1Char('\n')),
                     folder.isWritable ? platform::TextColor::gray : platform::TextColor::red);

@@ -196,7 +196,7 @@ void Panels::beginSheet(const platform::SavePanel& panel, Chosen completion) {
   setTypes(*dialog, panel.allowedFileTypes);
   dialog->setDefaultSuffix(toQString(panel.allowedFileTypes.front()));
   dialog->selectFile(toQString(panel.nameFieldStringValue));
-  auto* const message = new QLabel(toQString(panel.message));
+  auto* const message = new QLabel(QCoreApplication::translate("Panels", panel.message.c_str()));
   message->setObjectName(QLatin1String("bitView"));
   dialog->layout()->addWidget(message);
   desktop::begin(std::move(dialog), Qt::WindowModal, std::move(completion));

@@ -6,6 +6,7 @@
 
 #include "desktop/appearance.h"
 #include "desktop/checks_texts.h"
+#include "desktop/sizes.h"
 #include "desktop/texts.h"
 
 namespace desktop {
@@ -23,8 +24,11 @@ class CellPainter {
     text_ = readableOn(
         background_,
         cell.palette.color(group, isSelected_ ? QPalette::HighlightedText : QPalette::Text));
-    constexpr double faintness = 0.35;
-    faint_ = readableOn(background_, mixed(text_, background_, faintness));
+    constexpr double faintness = 0.3;
+    faint_ = mixed(text_, background_, faintness);
+    if (readableOn(background_, faint_) != faint_) {
+      faint_ = text_;
+    }
     const int margin = style_.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
     rest_ = cell.rect.adjusted(margin, 0, -margin, 0);
   }
@@ -121,9 +125,11 @@ class CellPainter {
 
 void VolumeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  option->text = leftToRight(option->text);
   if (option->displayAlignment.testFlag(Qt::AlignRight)) {
-    option->text += columnGap;
+    option->text = translatedSize(fromQString(option->text)) + columnGap;
+  } else if (index.column() > 0) {
+    const QString kind = QCoreApplication::translate("Kinds", option->text.toUtf8().constData());
+    option->text = kind.isRightToLeft() ? kind : leftToRight(kind);
   }
 }
 

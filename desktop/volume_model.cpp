@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desktop/plain_text.h"
+#include "desktop/sizes.h"
 #include "desktop/texts.h"
 #include "platform/byte_count.h"
 
@@ -62,17 +63,22 @@ QString VolumeModel::summary() const {
   QStringList parts(rows_ == 1 ? tr("1 disk image") : tr("%n disk images", nullptr, rows_));
   std::int64_t bytes = 0;
   int missing = 0;
+  int unknown = 0;  // in a folder that may not be entered, for example
   for (int row = 0; row < rows_ && !facts_.empty(); ++row) {
     if (const checks::FileFact* const fact = factAbout(row)) {
       bytes += fact->kind == checks::FileFact::Kind::file ? fact->stamp.size : 0;
       missing += fact->kind == checks::FileFact::Kind::nothing ? 1 : 0;
+      unknown += fact->kind == checks::FileFact::Kind::unknown ? 1 : 0;
     }
   }
   if (bytes > 0) {
-    parts.append(toQString(platform::ByteCountFormatter().stringFromByteCount(bytes)));
+    parts.append(translatedSize(platform::ByteCountFormatter().stringFromByteCount(bytes)));
   }
   if (missing > 0) {
     parts.append(tr("%n missing", nullptr, missing));
+  }
+  if (unknown > 0) {
+    parts.append(tr("%n not reachable", nullptr, unknown));
   }
   return parts.join(tr(", ", "between the parts of \"12 disk images, 1.3 GB, 2 missing\""));
 }

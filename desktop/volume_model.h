@@ -36,8 +36,8 @@ class VolumeModel : public QAbstractTableModel {
   /// What is wrong with the image, in few words; empty where nothing is.
   [[nodiscard]] QString troubleOf(int row) const;
 
-  /// How many images there are, how large they are together, and how many are missing, as far as
-  /// that is known.
+  /// How many images there are, how large they are together, and how many are missing or cannot be
+  /// looked at, as far as that is known.
   [[nodiscard]] QString summary() const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -1,5 +1,7 @@
 #include "editor/shared_folder.h"
 
+#include "platform/translatable.h"
+
 namespace editor {
 
 SharedFolderGroup::SharedFolderGroup(document::Preferences& values, platform::Output& diagnostics,
@@ -10,7 +12,7 @@ SharedFolderGroup::SharedFolderGroup(document::Preferences& values, platform::Ou
 
 void SharedFolderGroup::chooseFolder() {
   platform::OpenPanel panel;
-  panel.title = "Choose Unix Root Folder";
+  panel.title = platform::translatable("Panels", "Choose Unix Root Folder");
   panel.canChooseFiles = false;
   panel.canChooseDirectories = true;
   panel.canCreateDirectories = true;

@@ -14,7 +14,7 @@ if [ "${1:-}" = --check ]; then
   cp resources/translations/*.ts "$folder"
 fi
 quietly /usr/lib/qt6/bin/lupdate -tr-function-alias QT_TRANSLATE_NOOP+=translatable -no-obsolete \
-  -locations none -I . desktop editor document volumes checks -ts "$folder"/*.ts
+  -locations none -I . desktop editor document volumes app checks -ts "$folder"/*.ts
 if grep -B 3 unfinished "$folder"/*.ts; then
   [ "${1:-}" != --check ]
 fi

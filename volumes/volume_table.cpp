@@ -97,7 +97,8 @@ platform::TableCell VolumeTable::sizeCell(const platform::Location& /*location*/
 platform::TableCell VolumeTable::kindCell(const platform::Location& location, std::size_t row) {
   const std::string path = location.path();
   output_.print("Debug: text.path for volume type: ", path);
-  return {{}, path.starts_with('/') ? volumes_.volType()[row] : "No Path!", {}};
+  const char* const noPath = platform::translatable("Kinds", "No Path!");
+  return {{}, path.starts_with('/') ? volumes_.volType()[row] : noPath, {}};
 }
 
 void VolumeTable::switchList() {
@@ -113,7 +114,7 @@ void VolumeTable::switchList() {
 
 void VolumeTable::chooseFiles(const std::string& chosenFile) {
   platform::OpenPanel panel;
-  panel.title = "Select a volume";
+  panel.title = platform::translatable("Panels", "Select a volume");
   panel.canCreateDirectories = true;
   panel.allowsMultipleSelection = true;
   panel.allowedFileTypes = {"img",   "dmg",          "dsk",    "image", "cdr", "iso",
@@ -156,8 +157,8 @@ void VolumeTable::restore(const VolumeList::Entries& entries) {
 
 void VolumeTable::chooseNewPlace() {
   platform::SavePanel panel;
-  panel.title = "Create a new blank volume";
-  panel.message = "Create a new blank unformatted disk image";
+  panel.title = platform::translatable("Panels", "Create a new blank volume");
+  panel.message = platform::translatable("Panels", "Create a new blank unformatted disk image");
   panel.nameFieldStringValue = "Unformatted";
   panel.allowedFileTypes = {"dsk"};
   panel.canSelectHiddenExtension = true;

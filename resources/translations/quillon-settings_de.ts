@@ -450,6 +450,21 @@
     </message>
 </context>
 <context>
+    <name>Kinds</name>
+    <message>
+        <source>Disk Image</source>
+        <translation>Disk-Image</translation>
+    </message>
+    <message>
+        <source>Not Found!</source>
+        <translation>Nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>No Path!</source>
+        <translation>Kein Pfad!</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>Choose a Folder for New Images</source>
@@ -462,6 +477,26 @@
     <message>
         <source>Choose the ROM File</source>
         <translation>ROM-Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose Unix Root Folder</source>
+        <translation>Gemeinsamen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Select a volume</source>
+        <translation>Disk-Images wählen</translation>
+    </message>
+    <message>
+        <source>Create a new blank volume</source>
+        <translation>Neues leeres Disk-Image</translation>
+    </message>
+    <message>
+        <source>Create a new blank unformatted disk image</source>
+        <translation>Ein neues leeres, unformatiertes Disk-Image anlegen</translation>
+    </message>
+    <message>
+        <source>Choose Quillon</source>
+        <translation>Quillon wählen</translation>
     </message>
 </context>
 <context>
@@ -763,6 +798,37 @@
     <message>
         <source>Rest while the Macintosh is &amp;idle</source>
         <translation>&amp;Pausieren, wenn der Macintosh untätig ist</translation>
+    </message>
+</context>
+<context>
+    <name>Sizes</name>
+    <message>
+        <source>Zero KB</source>
+        <translation>Null KB</translation>
+    </message>
+    <message>
+        <source>byte</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
     </message>
 </context>
 <context>
@@ -1185,6 +1251,10 @@
         <source>Move to a setting to read here what it does.</source>
         <translation>Gehen Sie zu einer Einstellung, um hier zu lesen, was sie bewirkt.</translation>
     </message>
+    <message>
+        <source>In the file: %1</source>
+        <translation>In der Datei: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::Menus</name>
@@ -1559,6 +1629,13 @@
         <source>, </source>
         <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
         <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not reachable</source>
+        <translation>
+            <numerusform>%n nicht erreichbar</numerusform>
+            <numerusform>%n nicht erreichbar</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -450,6 +450,21 @@
     </message>
 </context>
 <context>
+    <name>Kinds</name>
+    <message>
+        <source>Disk Image</source>
+        <translation>Imagen de disco</translation>
+    </message>
+    <message>
+        <source>Not Found!</source>
+        <translation>¡No se encuentra!</translation>
+    </message>
+    <message>
+        <source>No Path!</source>
+        <translation>¡Sin ruta!</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>Choose the Key Code File</source>
@@ -462,6 +477,26 @@
     <message>
         <source>Choose a Folder for New Images</source>
         <translation>Elegir una carpeta para las nuevas imágenes de disco</translation>
+    </message>
+    <message>
+        <source>Choose Unix Root Folder</source>
+        <translation>Elegir la carpeta compartida</translation>
+    </message>
+    <message>
+        <source>Select a volume</source>
+        <translation>Elegir imágenes de disco</translation>
+    </message>
+    <message>
+        <source>Create a new blank volume</source>
+        <translation>Nueva imagen de disco en blanco</translation>
+    </message>
+    <message>
+        <source>Create a new blank unformatted disk image</source>
+        <translation>Crear una imagen de disco nueva, vacía y sin formato</translation>
+    </message>
+    <message>
+        <source>Choose Quillon</source>
+        <translation>Elegir Quillon</translation>
     </message>
 </context>
 <context>
@@ -763,6 +798,37 @@
     <message>
         <source>Rest while the Macintosh is &amp;idle</source>
         <translation>&amp;Descansar cuando el Macintosh esté inactivo</translation>
+    </message>
+</context>
+<context>
+    <name>Sizes</name>
+    <message>
+        <source>Zero KB</source>
+        <translation>Cero KB</translation>
+    </message>
+    <message>
+        <source>byte</source>
+        <translation>byte</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
     </message>
 </context>
 <context>
@@ -1185,6 +1251,10 @@
         <source>Move to a setting to read here what it does.</source>
         <translation>Vaya a un ajuste para leer aquí lo que hace.</translation>
     </message>
+    <message>
+        <source>In the file: %1</source>
+        <translation>En el archivo: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::Menus</name>
@@ -1559,6 +1629,13 @@
         <source>, </source>
         <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
         <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not reachable</source>
+        <translation>
+            <numerusform>%n inaccesible</numerusform>
+            <numerusform>%n inaccesibles</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -450,6 +450,21 @@
     </message>
 </context>
 <context>
+    <name>Kinds</name>
+    <message>
+        <source>Disk Image</source>
+        <translation>Image disque</translation>
+    </message>
+    <message>
+        <source>Not Found!</source>
+        <translation>Introuvable&#xa0;!</translation>
+    </message>
+    <message>
+        <source>No Path!</source>
+        <translation>Pas de chemin&#xa0;!</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>Choose the Key Code File</source>
@@ -462,6 +477,26 @@
     <message>
         <source>Choose a Folder for New Images</source>
         <translation>Choisir un dossier pour les nouvelles images disque</translation>
+    </message>
+    <message>
+        <source>Choose Unix Root Folder</source>
+        <translation>Choisir le dossier partagé</translation>
+    </message>
+    <message>
+        <source>Select a volume</source>
+        <translation>Choisir des images disque</translation>
+    </message>
+    <message>
+        <source>Create a new blank volume</source>
+        <translation>Nouvelle image disque vierge</translation>
+    </message>
+    <message>
+        <source>Create a new blank unformatted disk image</source>
+        <translation>Créer une image disque vierge non formatée</translation>
+    </message>
+    <message>
+        <source>Choose Quillon</source>
+        <translation>Choisir Quillon</translation>
     </message>
 </context>
 <context>
@@ -763,6 +798,37 @@
     <message>
         <source>Rest while the Macintosh is &amp;idle</source>
         <translation>Rep&amp;os quand le Macintosh est inactif</translation>
+    </message>
+</context>
+<context>
+    <name>Sizes</name>
+    <message>
+        <source>Zero KB</source>
+        <translation>Zéro Ko</translation>
+    </message>
+    <message>
+        <source>byte</source>
+        <translation>octet</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>octets</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>Ko</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>Go</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>To</translation>
     </message>
 </context>
 <context>
@@ -1185,6 +1251,10 @@
         <source>Move to a setting to read here what it does.</source>
         <translation>Allez sur un réglage pour lire ici ce qu’il fait.</translation>
     </message>
+    <message>
+        <source>In the file: %1</source>
+        <translation>Dans le fichier&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::Menus</name>
@@ -1559,6 +1629,13 @@
         <source>, </source>
         <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
         <translation>, </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not reachable</source>
+        <translation>
+            <numerusform>%n inaccessible</numerusform>
+            <numerusform>%n inaccessibles</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -450,6 +450,21 @@
     </message>
 </context>
 <context>
+    <name>Kinds</name>
+    <message>
+        <source>Disk Image</source>
+        <translation>ディスクイメージ</translation>
+    </message>
+    <message>
+        <source>Not Found!</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>No Path!</source>
+        <translation>パスがありません</translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>Choose the Key Code File</source>
@@ -462,6 +477,26 @@
     <message>
         <source>Choose a Folder for New Images</source>
         <translation>新しいディスクイメージのフォルダーの選択</translation>
+    </message>
+    <message>
+        <source>Choose Unix Root Folder</source>
+        <translation>共有フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>Select a volume</source>
+        <translation>ディスクイメージの選択</translation>
+    </message>
+    <message>
+        <source>Create a new blank volume</source>
+        <translation>新しい空のディスクイメージ</translation>
+    </message>
+    <message>
+        <source>Create a new blank unformatted disk image</source>
+        <translation>フォーマットされていない新しい空のディスクイメージを作成します</translation>
+    </message>
+    <message>
+        <source>Choose Quillon</source>
+        <translation>Quillon の選択</translation>
     </message>
 </context>
 <context>
@@ -763,6 +798,37 @@
     <message>
         <source>Rest while the Macintosh is &amp;idle</source>
         <translation>アイドル時に休止する(&amp;I)</translation>
+    </message>
+</context>
+<context>
+    <name>Sizes</name>
+    <message>
+        <source>Zero KB</source>
+        <translation>0 KB</translation>
+    </message>
+    <message>
+        <source>byte</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>バイト</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
     </message>
 </context>
 <context>
@@ -1185,6 +1251,10 @@
         <source>Move to a setting to read here what it does.</source>
         <translation>設定に移動すると、ここに説明が表示されます。</translation>
     </message>
+    <message>
+        <source>In the file: %1</source>
+        <translation>ファイルの行: %1</translation>
+    </message>
 </context>
 <context>
     <name>desktop::Menus</name>
@@ -1557,6 +1627,12 @@
         <source>, </source>
         <comment>between the parts of &quot;12 disk images, 1.3 GB, 2 missing&quot;</comment>
         <translation>、</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not reachable</source>
+        <translation>
+            <numerusform>%n 個にアクセスできません</numerusform>
+        </translation>
     </message>
 </context>
 <context>
