@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/icons.h"
 #include "desktop/plain_text.h"
 #include "desktop/setting_widgets.h"
 #include "desktop/texts.h"
@@ -50,6 +51,7 @@ ChangesList::ChangesList(editor::ViewController& controller, Edits& edits, QWidg
   area_->setFocusPolicy(Qt::NoFocus);
 
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  giveIcon(buttons->button(QDialogButtonBox::Close), "window-close");
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* const all = new QPushButton(tr("Put &All Back"));
   all->setObjectName(QLatin1String("putAllBack"));
@@ -122,9 +124,9 @@ QWidget* ChangesList::table(const std::vector<Row>& rows) {
     button->setAccessibleName(tr("Put back %1").arg(row.what));
     button->setAccessibleDescription(row.how);
     connect(button, &QPushButton::clicked, this, [this, action = row.putBack] { putBack(action); });
-    grid->addWidget(wrappedLabel(row.what), number, 0, Qt::AlignTop);
-    grid->addWidget(wrappedLabel(row.how), number, 1, Qt::AlignTop);
-    grid->addWidget(button, number, 2, Qt::AlignTop);
+    grid->addWidget(wrappedLabel(row.what), number, 0, Qt::AlignVCenter);
+    grid->addWidget(wrappedLabel(row.how), number, 1, Qt::AlignVCenter);
+    grid->addWidget(button, number, 2, Qt::AlignVCenter);
   }
   grid->setRowStretch(grid->rowCount(), 1);
   return content;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desktop/checks_texts.h"
+#include "desktop/icons.h"
 
 namespace desktop {
 
@@ -30,6 +31,7 @@ ChecksList::ChecksList(std::function<void(const checks::Finding&)> go, QWidget* 
     }
   });
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  giveIcon(buttons->button(QDialogButtonBox::Close), "window-close");
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(list_);

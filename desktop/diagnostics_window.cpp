@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/icons.h"
+
 namespace desktop {
 
 DiagnosticsWindow::DiagnosticsWindow(volumes::VolumeTable& volumes, Edits& edits, QWidget* parent)
@@ -28,6 +30,7 @@ DiagnosticsWindow::DiagnosticsWindow(volumes::VolumeTable& volumes, Edits& edits
   panelRow->addWidget(panel);
   panelRow->addStretch();
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  giveIcon(buttons->button(QDialogButtonBox::Close), "window-close");
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   buttons->button(QDialogButtonBox::Close)->setDefault(true);
 

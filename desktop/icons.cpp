@@ -50,6 +50,9 @@ void giveIcon(QPushButton* button, const char* name) {
     room.fill(Qt::transparent);
     button->setIcon(room);
     new IconWhenSeen(button, name);
+  } else {
+    button->setIcon(
+        {});  // QDialogButtonBox gives some buttons, and not others, a picture of Qt's own
   }
 }
 

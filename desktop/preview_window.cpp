@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "desktop/icons.h"
 #include "desktop/texts.h"
 #include "platform/files.h"
 
@@ -99,6 +100,7 @@ PreviewWindow::PreviewWindow(const editor::ViewController& controller, QWidget* 
   auto* const legend = new QLabel(tr("- will be dropped   * will be changed   + will be added"));
   legend->setTextFormat(Qt::PlainText);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  giveIcon(buttons->button(QDialogButtonBox::Close), "window-close");
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   buttons->button(QDialogButtonBox::Close)->setDefault(true);
 

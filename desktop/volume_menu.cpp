@@ -8,6 +8,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "desktop/icons.h"
 #include "desktop/texts.h"
 #include "desktop/volume_view.h"
 
@@ -18,30 +19,35 @@ VolumeMenu::VolumeMenu(volumes::VolumeTable& volumes, const std::function<void()
     : QMenu(parent), volumes_(volumes) {
   setObjectName(QLatin1String("volumeMenu"));
   setAttribute(Qt::WA_DeleteOnClose);
-  addMove(volumes.moveUp, tr("Move &Up"), moveUpKeys);
-  addMove(volumes.moveDown, tr("Move &Down"), moveDownKeys);
+  addMove(volumes.moveUp, tr("Move &Up"), "go-up", moveUpKeys);
+  addMove(volumes.moveDown, tr("Move &Down"), "go-down", moveDownKeys);
   const auto selected = volumes.tableView.selectedRow();
-  add("removeVol", tr("&Remove"), Qt::Key_Delete, remove)->setEnabled(selected.has_value());
+  add("removeVol", tr("&Remove"), "list-remove", Qt::Key_Delete, remove)
+      ->setEnabled(selected.has_value());
   addSeparator();
   const auto& names = volumes.volumes().volName();
-  add("showInFolder", tr("Show in &Folder"), {}, [this] {
+  add("showInFolder", tr("Show in &Folder"), "folder-open", {}, [this] {
     showInFolder();
   })->setEnabled(selected && names[*selected].isFile());
-  add("copyPath", tr("&Copy Path"), {}, [this] { copyPaths(); })->setEnabled(selected.has_value());
+  add("copyPath", tr("&Copy Path"), "edit-copy", {}, [this] {
+    copyPaths();
+  })->setEnabled(selected.has_value());
 }
 
-QAction* VolumeMenu::add(const char* name, const QString& text, const QKeySequence& keys,
-                         const std::function<void()>& callback) {
+QAction* VolumeMenu::add(const char* name, const QString& text, const char* icon,
+                         const QKeySequence& keys, const std::function<void()>& callback) {
   QAction* const entry = addAction(text);
   entry->setObjectName(QLatin1String(name));
   entry->setShortcut(keys);
+  giveIcon(entry, this, icon);
   entry->setShortcutVisibleInContextMenu(true);
   connect(entry, &QAction::triggered, this, callback);
   return entry;
 }
 
-void VolumeMenu::addMove(platform::Button& button, const QString& text, const QKeySequence& keys) {
-  add(button.name().c_str(), text, keys, [&button] {
+void VolumeMenu::addMove(platform::Button& button, const QString& text, const char* icon,
+                         const QKeySequence& keys) {
+  add(button.name().c_str(), text, icon, keys, [&button] {
     button.sendAction();
   })->setEnabled(button.isEnabled());
 }

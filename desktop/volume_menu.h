@@ -16,9 +16,10 @@ class VolumeMenu : public QMenu {
   VolumeMenu(volumes::VolumeTable& volumes, const std::function<void()>& remove, QWidget* parent);
 
  private:
-  QAction* add(const char* name, const QString& text, const QKeySequence& keys,
+  QAction* add(const char* name, const QString& text, const char* icon, const QKeySequence& keys,
                const std::function<void()>& callback);
-  void addMove(platform::Button& button, const QString& text, const QKeySequence& keys);
+  void addMove(platform::Button& button, const QString& text, const char* icon,
+               const QKeySequence& keys);
   void showInFolder() const;
   void copyPaths() const;
 

@@ -68,8 +68,8 @@ QLabel* VolumesList::summary(VolumeView* table) const {
 // else: the table takes it instead.
 QPushButton* VolumesList::moveButton(VolumeView* table, Controls& controls,
                                      platform::Button& control, const QString& text,
-                                     const QString& help) {
-  QPushButton* const button = controls.pushButton(control, text, help);
+                                     const QString& help, const char* icon) {
+  QPushButton* const button = controls.pushButton(control, text, help, icon);
   shown_.push_back(control.attach([table, button, &control] {
     if (!control.isEnabled() && button->hasFocus()) {
       table->setFocus();
@@ -90,10 +90,11 @@ QLayout* VolumesList::buttons(VolumeView* table, const PageContext& context) {
       tr("Takes the selected disk image off the list. The file stays."), "list-remove"));
   row->addWidget(moveButton(
       table, controls, volumes.moveUp, tr("Move &Up"),
-      tr("Moves the selected disk images one place up (%1).").arg(keysText(moveUpKeys))));
+      tr("Moves the selected disk images one place up (%1).").arg(keysText(moveUpKeys)), "go-up"));
   row->addWidget(moveButton(
       table, controls, volumes.moveDown, tr("Move Do&wn"),
-      tr("Moves the selected disk images one place down (%1).").arg(keysText(moveDownKeys))));
+      tr("Moves the selected disk images one place down (%1).").arg(keysText(moveDownKeys)),
+      "go-down"));
   row->addWidget(controls.pushButton(context.controller.bitCreate, tr("New &Blank Image…"),
                                      tr("Makes an empty disk image. It is not added to the list."),
                                      "document-new"));

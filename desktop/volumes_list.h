@@ -22,7 +22,7 @@ class VolumesList : public QVBoxLayout {
   [[nodiscard]] QLayout* buttons(VolumeView* table, const PageContext& context);
   [[nodiscard]] QPushButton* moveButton(VolumeView* table, Controls& controls,
                                         platform::Button& control, const QString& text,
-                                        const QString& help);
+                                        const QString& help, const char* icon);
 
   std::vector<platform::Subscription> shown_;
 };
