@@ -16,9 +16,9 @@ ChecksLine::ChecksLine() : sentence_(tr("Checking the files…")) {
   setFocusPolicy(Qt::StrongFocus);
   const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
   setIconSize(QSize(icon, icon));
-  // As high with the icon as without, and never wider than the window.
+  // As high with the icon as without.
   setFixedHeight(std::max(icon, fontMetrics().height()) + fontMetrics().height() / 2);
-  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   setWhatsThis(
       tr("What keeps Quillon from starting, and what else deserves a look. Press it to see "
          "all of it."));
@@ -42,12 +42,16 @@ void ChecksLine::show(const std::vector<checks::Finding>& findings, bool areComp
   }
   setAccessibleName(spoken + rest_);
   setToolTip(plainToolTip(sentence_ + rest_));
+  updateGeometry();
   showText();
 }
 
+QSize ChecksLine::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(sentence_ + rest_) + roomAround() + 1, height()};
+}
+
 void ChecksLine::showText() {
-  const int margins = iconSize().width() + 2 * fontMetrics().height();
-  const int room = width() - margins - fontMetrics().horizontalAdvance(rest_);
+  const int room = width() - roomAround() - fontMetrics().horizontalAdvance(rest_);
   QString text = fontMetrics().elidedText(sentence_, Qt::ElideMiddle, room);
   text += rest_;
   setText(text.replace(QLatin1Char('&'), QLatin1String("&&")));

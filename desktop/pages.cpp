@@ -22,6 +22,7 @@ QWidget* volumesPage(const PageContext& context) {
   auto* const page = new QWidget;
   auto* const layout = new QVBoxLayout(page);
   layout->addLayout(new VolumesList(context), 1);
+  layout->addSpacing(page->fontMetrics().lineSpacing() / 2);
   PageBuilder builder(controls, context.settingWidgets);
   builder.field(shared.unixRootPath,
                 controls.pushButton(shared.unixRoot, tr("Ch&oose…"),

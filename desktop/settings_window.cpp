@@ -60,7 +60,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   buildShortcuts();
   layout->addLayout(fileRow());
   auto* const checksLine = new ChecksLine;
-  layout->addWidget(checksLine);
+  layout->addWidget(checksLine, 0, Qt::AlignLeft);
   layout->addLayout(buttonRow());
   help_->follow(content);
   fillPage(editor::TabId::volumes);
@@ -94,10 +94,12 @@ SettingsWindow::~SettingsWindow() {
 
 // Before the first paint, since the window system would show how it changes.
 void SettingsWindow::restore() {
-  // The size goes by the font. A tenth of the screen is left for title bar and panels.
+  // The size goes by the font and by how high the style makes fields. A tenth of the screen is left
+  // for title bar and panels.
   const int line = fontMetrics().lineSpacing();
+  const int field = fileField_->sizeHint().height();
   const QSize room = (screen()->availableSize() * 9 / 10).expandedTo({640, 480});
-  resize(QSize(52 * line, 40 * line).boundedTo(room));
+  resize(QSize(52 * line, 18 * line + 14 * field).boundedTo(room));
   restoreGeometry(memory_.geometry);
   const auto& items = controller_.tabs.tabViewC.items();
   const auto shown = std::find_if(items.begin(), items.end(), [this](const auto& item) {
@@ -122,6 +124,7 @@ void SettingsWindow::followState() {
   connect(&*watch_, &StateWatch::changed, this, [this] {
     changeMarks_->update();
     checks_->refresh();
+    help_->refresh();
   });
   connect(&*checks_, &ChecksView::changed, this, [this] { changeMarks_->update(); });
 }
