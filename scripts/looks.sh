@@ -13,8 +13,8 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 
 pictures=$(realpath -m "${1:-$root/build/looks}")
 looks=("${@:2}")
-[ $# -gt 1 ] || looks=(light dark contrast double german mirrored small large-font
-  adwaita breeze first-run full-list findings unsaved)
+[ $# -gt 1 ] || looks=(light dark contrast double german french spanish japanese mirrored small
+  large-font adwaita breeze first-run full-list findings unsaved)
 bundle=${BUNDLE:-$root/build/release/QuillonSettings.app}
 log=$(mktemp)
 trap 'rm -rf "$log" "${demoHome:-$log}"' EXIT
@@ -30,29 +30,32 @@ hasStyle() {
   compgen -G "$styles/$1*.so" >/dev/null
 }
 
-# theme FONT-SIZE WINDOW VIEW TEXT HIGHLIGHT HIGHLIGHTED: has Qt read colours and a font as on KDE.
+# theme ICONS FONT-SIZE WINDOW VIEW TEXT HIGHLIGHT HIGHLIGHTED: has Qt read colours, a font and an
+# icon theme as on KDE.
 theme() {
   mkdir -p "$XDG_CONFIG_HOME"
   cat >"$XDG_CONFIG_HOME/kdeglobals" <<END
 [General]
 widgetStyle=Fusion
-font=Sans,$1,-1,5,50,0,0,0,0,0
+font=Sans,$2,-1,5,50,0,0,0,0,0
+[Icons]
+Theme=$1
 [Colors:Window]
-BackgroundNormal=$2
-ForegroundNormal=$4
-[Colors:View]
 BackgroundNormal=$3
-BackgroundAlternate=$2
-ForegroundNormal=$4
+ForegroundNormal=$5
+[Colors:View]
+BackgroundNormal=$4
+BackgroundAlternate=$3
+ForegroundNormal=$5
 [Colors:Button]
-BackgroundNormal=$2
-ForegroundNormal=$4
+BackgroundNormal=$3
+ForegroundNormal=$5
 [Colors:Selection]
-BackgroundNormal=$5
-ForegroundNormal=$6
+BackgroundNormal=$6
+ForegroundNormal=$7
 [Colors:Tooltip]
-BackgroundNormal=$2
-ForegroundNormal=$4
+BackgroundNormal=$3
+ForegroundNormal=$5
 END
   export XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
 }
@@ -73,6 +76,8 @@ isPossible() {
   svg=$(apt-cache pkgnames qt6-svg-plugins)  # Debian 12 has them with the library
   case $1 in
     adwaita) hasStyle adwaita adwaita-qt6 adwaita-icon-theme "${svg:-libqt6svg6}" ;;
+    dark | contrast | large-font) quietly installMissing breeze-icon-theme "${svg:-libqt6svg6}" || true ;;
+    japanese) [ -n "$(fc-list :lang=ja)" ] || quietly installMissing fonts-ipafont-gothic ;;
     breeze) hasStyle breeze kde-style-breeze breeze-icon-theme "${svg:-libqt6svg6}" ;;
   esac
 }
@@ -82,17 +87,19 @@ takeLook() {
   local options=(--windows --frames)
   case $1 in
     light) ;;
-    dark) theme 9 49,54,59 35,38,41 252,252,252 61,174,233 252,252,252 ;;
-    contrast) theme 9 0,0,0 0,0,0 255,255,255 255,255,0 0,0,0 ;;
+    dark) theme breeze-dark 9 49,54,59 35,38,41 252,252,252 61,174,233 252,252,252 ;;
+    contrast) theme breeze-dark 9 0,0,0 0,0,0 255,255,255 255,255,0 0,0,0 ;;
     double) export QT_SCALE_FACTOR=2 && options+=(--screen 2048x1400) ;;
     german) options+=(--locale de_DE.UTF-8) ;;
+    french) options+=(--locale fr_FR.UTF-8) ;;
+    spanish) options+=(--locale es_ES.UTF-8) ;;
+    japanese) options+=(--locale ja_JP.UTF-8) ;;
     mirrored) options+=(--locale ar_EG.UTF-8) ;;  # of Qt's own texts, which tell the direction
     small) options+=(--screen 1024x600) ;;
-    large-font) theme 14 239,239,239 255,255,255 0,0,0 48,140,198 255,255,255 ;;
+    large-font) theme breeze 14 239,239,239 255,255,255 0,0,0 48,140,198 255,255,255 ;;
     adwaita) export QT_STYLE_OVERRIDE=adwaita XDG_CURRENT_DESKTOP=GNOME ;;
     breeze)
-      theme 10 239,240,241 252,252,252 35,38,41 61,174,233 252,252,252
-      printf '[Icons]\nTheme=breeze\n' >>"$XDG_CONFIG_HOME/kdeglobals"
+      theme breeze 10 239,240,241 252,252,252 35,38,41 61,174,233 252,252,252
       export QT_STYLE_OVERRIDE=breeze
       ;;
     first-run) rm -r "$HOME/.quillon_prefs" "$HOME/Quillon.app" && options=(--frames) ;;

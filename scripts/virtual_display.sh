@@ -152,8 +152,13 @@ pictureWindow() {
 pictureWindows() {
   pictureWindow preferences key ctrl+comma
   pictureWindow create key ctrl+n
-  pictureWindow agreement key alt+h sleep 0.3 key Return
-  pictureWindow diagnostics key alt+h sleep 0.3 key Down key Return
+  local help=h  # the letter of the menu
+  case $locale in
+    fr*) help=a ;;
+    es*) help=y ;;
+  esac
+  pictureWindow agreement key "alt+$help" sleep 0.3 key Return
+  pictureWindow diagnostics key "alt+$help" sleep 0.3 key Down key Return
   pictureWindow file-panel key ctrl+o
   pictureWindow find key ctrl+f type s
 }
