@@ -221,7 +221,7 @@ QComboBox* Controls::lineEditWithChoices(platform::TextField& control, const QSt
                                          const QStringList& choices) {
   auto* const box = new QComboBox;
   box->setObjectName(toQString(control.name()) + QLatin1Char('s'));
-  box->setToolTip(help);
+  box->setToolTip(shortToolTip(help));
   guardWheel(box);
   box->setEditable(true);
   box->setInsertPolicy(QComboBox::NoInsert);

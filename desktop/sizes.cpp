@@ -29,7 +29,10 @@ QString translatedSize(const std::string& size) {
   if (number.isEmpty() || !number.back().isDigit()) {
     return translated(text);
   }
-  number.replace(QLatin1Char('.'), QLocale().decimalPoint());
+  const QLocale locale;
+  if (locale.zeroDigit() == QLatin1String("0")) {  // another point beside other digits looks wrong
+    number.replace(QLatin1Char('.'), locale.decimalPoint());
+  }
   return leftToRight(number + QLatin1Char(' ') + translated(text.mid(space + 1)));
 }
 
