@@ -23,15 +23,7 @@ std::string loaded() {
          " " + std::to_string(sharedVar::quitGUI);
 }
 
-const char* const shipped = "\"\" 1 2 0 0";
-
-/// The property list in tests/data, with the setting of every key away from the shipped one.
-struct SettingsTest : testing::Test {
-  FakeHost host;
-  std::string file = tests::dataFile("own-settings.plist");
-  std::string own = "\"/Q\u00fc & A.app\" 0 7 1 1";
-};
-
+/// A property list in the other format; of what is none, nothing.
 std::string binary(const std::string& xml) {
   plist_t root = nullptr;
   char* bytes = nullptr;
@@ -43,86 +35,51 @@ std::string binary(const std::string& xml) {
   return {bytes, size};
 }
 
-TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValue) {
-  struct Row {
-    std::string content;
-    std::string loaded = shipped;
-    int told = 5;  // keys without a usable value
-  };
-  const auto with = [&](const std::string& part, const std::string& by) {
-    return tests::replaced(file, part, by);
-  };
-  const auto nested = [&](int levels) {
-    std::string lists;
-    for (int level = 2; level < levels; ++level) {  // in an array in the dictionary
-      lists = "<array>" + lists + "</array>";
-    }
-    return with("<real>1.5</real>", lists);
-  };
-  std::vector<Row> rows = {{.content = file, .loaded = own, .told = 0},
-                           {.content = nested(64), .loaded = own, .told = 0},
-                           {.content = nested(65)},
-                           {.content = nested(3000)},
-                           {.content = with("<false/>", "<integer>0</integer>"),
-                            .loaded = "\"/Q\u00fc & A.app\" 1 7 1 1",
-                            .told = 1},
-                           {.content = with("<string>/Q\u00fc &amp; A.app</string>", "<true/>"),
-                            .loaded = "\"\" 0 7 1 1",
-                            .told = 1},
-                           {.content = "<plist version=\"1.0\"><array/></plist>"}};
-  for (std::size_t row = rows.size(); row-- > 0;) {
-    rows.push_back({binary(rows[row].content), rows[row].loaded, rows[row].told});
-  }
-  // Newer versions of the library would know the first two formats, too.
-  for (const std::string& content :
-       {std::string(R"({"Quillon.app location" = "/Q"; "Start Flag" = 1;})"),
-        std::string(R"({"Quillon.app location": "/Q", "Start Flag": 1})"), std::string(),
-        std::string("garbage"), file.substr(0, 200), binary(file).substr(0, 100),
-        file + std::string(1 << 16, ' ')}) {
-    rows.push_back({.content = content});
-  }
-  const auto expectLoaded = [&](const std::string& expected, int told) {
+struct SettingsTest : testing::Test {
+  /// Loads the settings and counts the keys that are told to have no usable value.
+  SettingsStore load(const std::string& expected, std::ptrdiff_t told) {
     SettingsStore store(host.host());
+    host.said();
     store.load();
     EXPECT_EQ(loaded(), expected);
     const std::string said = host.said();
     EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), told) << said;
     return store;
-  };
-  expectLoaded(shipped, 0);
-  for (const auto& [content, expected, told] : rows) {
-    SCOPED_TRACE(content.substr(0, 3000));
-    host.home.write(FakeHost::settings, content);
-    expectLoaded(expected, told).writeBack();
-    host.said();
-    expectLoaded(expected, 0);
   }
-  fs::remove(host.home.path(FakeHost::settings));
-  expectLoaded(shipped, 5);
-  fs::create_directory(host.home.path(FakeHost::settings));
-  expectLoaded(shipped, 5);
-}
 
-TEST_F(SettingsTest, WritesBackWithWhatItDoesNotKnow) {
-  host.home.write(FakeHost::settings, binary(file));
-  SettingsStore store(host.host());
-  store.load();
-  sharedVar::pathToQuil = "/new <&>";
-  sharedVar::startFlag = startCustom;
-  sharedVar::quitGUI = false;
-  store.writeBack();
-  const std::string written = host.home.read(FakeHost::settings);
-  EXPECT_EQ(host.said(), std::to_string(written.size()) + " bytes\n");
-  for (const char* const kept : {"<key>Mine</key>", "<real>1.5", "<date>2020-01-02T03:04:05Z",
-                                 "AAEC", "<integer>-5", "<key>k</key>", "<string>&lt;v"}) {
-    EXPECT_NE(written.find(kept), written.npos) << kept << " is not in " << written;
+  FakeHost host;
+  std::string file = tests::dataFile("own-settings.plist");
+};
+
+TEST_F(SettingsTest, WhatIsUnusableHasTheShippedValueAndWhatIsUnknownStays) {
+  constexpr const char* shipped = "\"\" 1 2 0 0";
+  load(shipped, 0);
+  for (const tests::Case& each :
+       tests::cases("own-settings.txt", {"text", "part", "becomes", "loads", "told"})) {
+    SCOPED_TRACE(each.written);
+    const std::string text =
+        each.has("text") ? each["text"] : tests::replaced(file, each["part"], each["becomes"]);
+    for (const std::string& content : {binary(text), text}) {
+      host.home.write(FakeHost::settings, content);
+      load(each["loads"], std::stoi(each["told"])).writeBack();
+      const std::string written = host.home.read(FakeHost::settings);
+      EXPECT_TRUE(host.said().starts_with(std::to_string(written.size()) + " bytes\n"));
+      load(each["loads"], 0);
+      for (const char* const unknown : {"<key>Mine</key>", "<date>2020-01-02T03:04:05Z", "AAEC",
+                                        "<integer>-5", "<string>&lt;v"}) {
+        EXPECT_TRUE(each["told"] == "5" || written.find(unknown) != written.npos) << unknown;
+      }
+    }
   }
-  store.load();
-  EXPECT_EQ(loaded(), "\"/new <&>\" 0 1 1 0");
-  EXPECT_EQ(host.said(), "") << "each key has its own type again";
+  for (const std::string& content :
+       {file + std::string(1 << 16, ' '), binary(file).substr(0, 100)}) {
+    host.home.write(FakeHost::settings, content);
+    load(shipped, 5);
+  }
   fs::remove(host.home.path(FakeHost::settings));
+  load(shipped, 5);
   fs::create_directory(host.home.path(FakeHost::settings));
-  store.writeBack();
+  load(shipped, 5).writeBack();
   EXPECT_TRUE(host.said().ends_with(" bytes\nIs a directory\n"));
 }
 
@@ -134,7 +91,7 @@ TEST_F(SettingsTest, APersonHasAFileWhereTheBundleIsReadOnly) {
   SettingsStore store(host.host());
   ASSERT_TRUE(!superuser || ::setreuid(0, static_cast<uid_t>(-1)) == 0);
   store.load();
-  EXPECT_EQ(loaded(), own) << "it begins as the bundle's";
+  EXPECT_EQ(sharedVar::startFlag, 7) << "it begins as the bundle's";
   sharedVar::startFlag = startNone;
   store.writeBack();
   EXPECT_EQ(host.home.read(FakeHost::settings), file);
@@ -144,37 +101,32 @@ TEST_F(SettingsTest, APersonHasAFileWhereTheBundleIsReadOnly) {
   EXPECT_EQ(sharedVar::startFlag, startNone);
 }
 
-TEST_F(SettingsTest, LocalModeFollowsTheBundle) {
-  const std::string root = "/\u00c9  100%[?#";
-  const std::string emulator = "/%C3%89  100%25%5B%3F%23//Quillon.app";
+// Nor is its own folder, 100%, mistaken for one that is named like its location, 100%25.
+TEST_F(SettingsTest, LocalModeStartsWhatIsBesideTheBundle) {
+  const std::string foreign = host.home.write("100%25/Quillon.app", "");
+  const std::string root = host.home.path("100%");
+  const std::string emulator = host.home.path("100%25//Quillon.app");
   sharedVar::startFlag = startLocal;
   applyLocalRule(host.output);
   EXPECT_EQ(sharedVar::pathToQuil, "") << "without a root";
   findLocalPath(platform::Bundle(root + "/Q S.app"), host.output);
   applyLocalRule(host.output);
   EXPECT_EQ(host.said(), "local path is: " + root + "\nlocal path is enabled: " + emulator + "\n");
-  for (const std::int64_t mode : {0, 1, -1}) {
-    sharedVar::startFlag = mode;
-    sharedVar::pathToQuil = "/mine";
-    applyLocalRule(host.output);
-    EXPECT_EQ(sharedVar::pathToQuil, "/mine") << "mode " << mode;
-  }
-  findLocalPath(platform::Bundle("/Q.app"), host.output);
-  EXPECT_EQ(sharedVar::pathToQuilRoot, "/");
-}
-
-TEST_F(SettingsTest, OwnFolderIsNotMistakenForOneNamedLikeItsLocation) {
-  const std::string foreign = host.home.write("100%25/Quillon.app", "");
-  findLocalPath(platform::Bundle(host.home.path("100%/Q S.app")), host.output);
   const std::pair<std::string, std::string> startedFrom[] = {
-      {localEmulator(), host.home.path("100%//Quillon.app")},
+      {emulator, host.home.path("100%//Quillon.app")},
       {host.home.path("100%25/Old.app"), host.home.path("100%/Old.app")},
       {foreign, foreign},
       {"/a%20b/Quillon.app", "/a%20b/Quillon.app"}};
-  for (const auto& [location, started] : startedFrom) {
-    sharedVar::pathToQuil = location;
-    EXPECT_EQ(emulatorPath(), started);
+  for (const std::int64_t mode : {startNone, startCustom}) {
+    sharedVar::startFlag = mode;
+    for (const auto& [location, started] : startedFrom) {
+      sharedVar::pathToQuil = location;
+      applyLocalRule(host.output);
+      EXPECT_EQ(emulatorPath(), started);
+    }
   }
+  findLocalPath(platform::Bundle("/Q.app"), host.output);
+  EXPECT_EQ(sharedVar::pathToQuilRoot, "/");
 }
 
 }  // namespace
