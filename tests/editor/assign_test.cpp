@@ -53,13 +53,6 @@ TEST_F(Assign, StoresTheValueAndShowsIt) {
   golden.expect("What is shown", shown);
 }
 
-TEST_F(Assign, ResettingOneKeyOfTheProcessorResetsThePair) {
-  setting(Key::cpu).assign("4");
-  setting(Key::fpu).assign("true");
-  setting(Key::fpu).reset();
-  EXPECT_EQ(setting(Key::cpu).shownValue(), "68030");
-}
-
 TEST_F(Assign, AKeyWithoutASettingOrWithTwoIsNamedAtOnce) {
   EXPECT_DEATH(settingsByKey({&window.jit}), "No setting for the key extfs");
   EXPECT_DEATH(settingsByKey({&window.jit, &window.jit}),
