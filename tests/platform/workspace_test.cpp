@@ -24,9 +24,10 @@ namespace fs = std::filesystem;
 
 // Leaves its findings in the file "found" of its working directory.
 constexpr auto script = R"(#!/bin/sh
+cat /proc/$$/environ >environment
+printf %s "$0" >program
 { readlink /proc/self/fd/0; cut -d' ' -f6 /proc/self/stat
   sed -n 's/^SigIgn:.//p' /proc/self/status; echo $(ls /proc/self/fd); } >found.new
-printf %s "$0" >program
 mv found.new found
 )";
 
@@ -56,6 +57,7 @@ struct WorkspaceTest : testing::Test {
 };
 
 TEST_F(WorkspaceTest, DetachesWhatItStarts) {
+  ::setenv("B", "two words\n", 1);
   const auto former = ::signal(SIGPIPE, SIG_IGN);
   const Descriptor open(::open("/dev/null", O_RDONLY));
   const Descriptor high(::fcntl(open.get(), F_DUPFD, 200));
@@ -68,6 +70,8 @@ TEST_F(WorkspaceTest, DetachesWhatItStarts) {
   EXPECT_NE(session, std::to_string(::getsid(0)));
   EXPECT_EQ(std::stoull("0" + ignored, nullptr, 16) >> (SIGPIPE - 1U) & 1U, 0U);
   EXPECT_EQ(descriptors, "0 1 2 3") << "the last is the listing's own";
+  const std::string environment = folder.read("home/environment");
+  EXPECT_NE(environment.find(std::string("B=two words\n\0", 13)), environment.npos);
   EXPECT_TRUE(::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD);
 }
 
@@ -88,14 +92,13 @@ TEST_F(WorkspaceTest, FindsTheExecutable) {
 }
 
 TEST_F(WorkspaceTest, TellsWhatCannotBeStarted) {
-  folder.write("Data.app/Contents/MacOS/Data", "#!/bin/sh\n");
+  const std::string data = folder.write("Data.app/Contents/MacOS/Data", "#!/bin/sh\n");
   fs::create_directories(folder.path("Folder.app/Contents/MacOS/Folder"));
   fs::permissions(folder.write("no interpreter", "#!/no/such/program\n"), fs::perms::owner_all);
   const std::string cut = program("cut") + std::string("\0.app", 5);
   for (const std::string& path :
-       {folder.path("none"), folder.path("Data.app"), folder.path("Folder.app"),
-        folder.path("no interpreter"), folder.path("Data.app/Contents/MacOS/Data/below"),
-        std::string(), cut}) {
+       {folder.path("none"), data, folder.path("Data.app"), data + "/below",
+        folder.path("Folder.app"), folder.path("no interpreter"), std::string(), cut}) {
     EXPECT_FALSE(workspace.launchApplication(path)) << path;
   }
 }

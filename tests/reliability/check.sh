@@ -3,7 +3,6 @@
 # argument. Nothing that they start knows the home of the person who runs them.
 # shellcheck disable=SC2034  # some of the variables are for them
 set -uo pipefail
-
 work=$(mktemp -d "${TMPDIR:-/tmp}/quillon test Ö XXXXXX")
 trap 'rm -rf "$work"' EXIT
 cp -R "$1" "$work/QuillonSettings.app"

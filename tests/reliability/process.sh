@@ -15,14 +15,13 @@ ends() { said=$(timeout 20 "${@:2}" 2>&1 | tr -d '\0'); [ $? -eq "$1" ]; }
 # shellcheck disable=SC2053  # it is a pattern
 says() { [[ $said == $1 ]]; }
 performs() { ends 0 "$performer" --run "$HOME" "$bundle" "$@"; }
-
 files() { (cd "$HOME" && find . -printf '%p %y' ! -type d -printf ' %s %T@' -o -printf '\n'); }
 
-# leaves LINE STEP...: the window ends by these steps, having written the line, and no file changes.
+# leaves TEXT STEP...: the window ends by these steps, having written the text, and no file changes.
 leaves() {
   local before
   before=$(files)
-  performs "${@:2}" && grep -q "^$1" <<<"$said" && [ "$(files)" = "$before" ]
+  performs "${@:2}" && says "*$1*" && [ "$(files)" = "$before" ]
 }
 
 check "a first start" ends 0 "$program" --start
@@ -34,66 +33,45 @@ check "what the emulator sees" says $'*\ndisk 1: /a b.dsk\n*\nramsize = 13421772
 check "the saved file" cmp "$prefs" <(echo 'disk /a b.dsk' | cat - "$work/default")
 
 printf 'rom /a\ncomment' >"$prefs"
-check "closing the window" leaves windowWillClose close
 for step in isQuit '&Quit' 2 15; do
   check "ending by $step" leaves '' "$step"
 done
+check "closing the window" leaves windowWillClose close
 check "a signal under a sheet" leaves 'create loaded' bitCreate 1
 check "closing over the preferences" leaves 'is empty' openPreferences quilOff close
 check "quitting under a sheet" leaves 'create loaded' bitCreate isQuit
-check "agreeing" leaves Agree '&Beta Agreement…' Agree close
 check "not agreeing" leaves Disagree '&Beta Agreement…' disAgree
 
-# shellcheck disable=SC2016  # until each is run
-for make in 'mkdir "$prefs"' 'mkfifo "$prefs"' 'ln -s /dev/zero "$prefs"' 'ln -s no/such "$prefs"' \
-  ': >"$prefs"' 'printf "rom \xff\nramsize 1\n" >"$prefs"' 'printf "rom a\0b\ndisk \0" >"$prefs"' \
-  'head -c 1000000 /dev/zero | tr "\0" x >"$prefs"' 'seq -f "key%.0f x" 200000 >"$prefs"'; do
-  rm -rf "$prefs"
-  eval "$make"
-  check "opening after $make" leaves '' close
-done
-
-echo 'rom /a' >"$prefs"
-# tells LINE: --check says this line.
-tells() { grep -qxP "$1" <<<"$said"; }
+printf 'rom /a\tb\e[1m\n' >"$prefs"
 before=$(files)
 check "--check with something that stops" ends 1 "$program" --check
-check "what it tells" tells 'stops\trom\tThe ROM file "/a" is missing\.'
+check "what it tells" says $'*stops\trom\tThe ROM file "/a\\\\x09b\\\\x1b\\[1m" is missing.\n*'
 check "nothing else" [ -z "$(grep -vP '^(stops|warning|note)\t' <<<"$said")" ]
-check "it changes no file" [ "$before" = "$(files)" ]
-rm "$prefs"
-check "--check without preferences" ends 1 "$program" --check
-check "it makes none" [ ! -e "$prefs" ]
-head -c 65536 /dev/zero >"$HOME/rom"
-printf 'rom rom\ndisk a\tb\e[1m\n' >"$prefs"
-check "--check with nothing that stops" ends 0 "$program" --check
-check "a path with control characters" tells 'warning\tdisk\t[^\t\e]*a\\x09b\\x1b\[1m.*'
-
-echo 'rom /a' >"$prefs"
 for arguments in --nonsense file '--start file' '--check file'; do
   # shellcheck disable=SC2086  # they are several
   check "refusing $arguments" ends 2 "$program" $arguments
 done
-export QT_QPA_PLATFORM=xcb
-check "help without a screen" ends 0 "$program" --help
-export QT_QPA_PLATFORM=offscreen
-check "no file changed" grep -qx 'rom /a' "$prefs"
+check "help without a screen" env QT_QPA_PLATFORM=xcb "$program" --help
+check "no file changed" [ "$before" = "$(files)" ]
+rm "$prefs"
+check "--check without preferences" ends 1 "$program" --check
+check "it makes none" [ ! -e "$prefs" ]
+head -c 65536 /dev/zero >"$HOME/rom"
+echo 'rom rom' >"$prefs"
+check "--check with nothing that stops" ends 0 "$program" --check
 for output in '| true' '>/dev/full'; do
   check "--start $output" bash -o pipefail -c "'$program' --start 2>/dev/null $output"
 done
 
 sed -i '/Quit on Start/ { n; s/false/true/ }' "$bundle/Contents/Resources/Prefs.plist"
 check "Start that quits" performs startQuil
-check "what it started" grep -qx 'rom = /never/saved/unless/asked' <<<"$said"
+check "what it started" says $'*\nrom = /never/saved/unless/asked\n*'
 rm -r "$work/Quillon.app"
 check "Start that quits, with no emulator" performs startQuil
 check "--start without an emulator" ends 1 "$program" --start
 check "it says why in a line" [ "$(grep -c '^quillon-settings: .*Quillon.app' <<<"$said")" -eq 1 ]
-rm "$prefs"
-ln -s no/such "$prefs"
-check "--start that cannot save" ends 1 "$program" --start
-rm "$prefs"
 printf 'rom /\xff\n' >"$prefs"
+before=$(files)
 check "--start over a file that it cannot read" ends 1 "$program" --start
-check "which it leaves" cmp "$prefs" <(printf 'rom /\xff\n')
+check "which it leaves" [ "$before" = "$(files)" ]
 exit $failed

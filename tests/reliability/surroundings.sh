@@ -3,16 +3,10 @@
 # Runs the program in surroundings that nobody prepared for it. Argument: its built bundle.
 # shellcheck source=tests/reliability/check.sh
 . "$(dirname "$0")/check.sh"
-
+mkdir -p "$work/Quillon.app/Contents/MacOS" "$work/account"
+ln -s /bin/true "$work/Quillon.app/Contents/MacOS/Quillon"
 # How many settings there are: each has a row in the table.
 keys=$(grep -c '{Key::' "$(dirname "$0")/../../document/key_table.h")
-
-# The stand-in for the emulator leaves the surroundings in which it was started.
-mkdir -p "$work/Quillon.app/Contents/MacOS"
-# shellcheck disable=SC2016  # until it runs
-printf '#!/bin/sh\n/bin/cat /proc/$$/environ >"${0%%/Quillon.app/*}/found"\n' \
-  >"$work/Quillon.app/Contents/MacOS/Quillon"
-chmod +x "$work/Quillon.app/Contents/MacOS/Quillon"
 
 # lines COUNT: whether the preferences file has so many.
 lines() { [ "$(wc -l <"$HOME/.quillon_prefs")" -eq "$1" ]; }
@@ -24,41 +18,33 @@ starts() {
   timeout 20 "${@:2}" "$program" --start >/dev/null 2>&1 && lines "$keys"
 }
 
-# The window opens, stays, and ends when it is told to.
-opens() { timeout -k 5 -s TERM 3 "$@" "$program" >/dev/null 2>&1; [ $? -eq 124 ]; }
-
 long=$work
 while [ ${#long} -lt 3880 ]; do long+=/$(printf 'x%.0s' {1..200}); done
-for home in "$work/a plain home" "$work/ b  l a n k s " "$work/Größe ☃/e$(printf '\314\201')" \
-  "$long" "$work/"$'new\nline' "$work/100%25 # ?"; do
+for home in "$long" "$work/ b  l a n k s " "$work/Größe ☃/e$(printf '\314\201')" \
+  "$work/"$'new\nline' "$work/100%25 # ?"; do
   mkdir -p "$home"
-  check "HOME of ${#home} characters: ${home:0:60}" starts "$home" env
+  check "HOME of ${#home} characters: ${home:0:60}" starts "$home" env -i HOME="$home"
 done
-check "the window with such a HOME" opens env HOME="$long"
+check "no home folder: told by the status" \
+  bash -c "! HOME='$work/none' timeout 20 '$program' --start >/dev/null 2>&1"
+HOME=$long timeout -k 5 3 "$program" >/dev/null 2>&1
+check "the window with the long one stays until it is ended" [ $? -eq 124 ]
 
 # Where HOME says nothing the account's own folder counts: that of an account of ours, which only the
 # program sees in the place of the real one.
-mkdir "$work/account"
 printf 'root:x:0:0::%s:/bin/sh\n' "$work/account" >"$work/passwd"
 asAccount() {
   # shellcheck disable=SC2016  # until it is run
   unshare --user --map-root-user --mount \
     bash -c 'mount --bind "$0/passwd" /etc/passwd && cd "$0" && "$@"' "$work" "$@" >/dev/null
 }
-if asAccount true 2>/dev/null; then
-  for setting in -uHOME HOME= HOME=relative; do
-    rm -f "$work/account/.quillon_prefs"
-    asAccount env "$setting" timeout 20 "$program" --start
-    check "env $setting" [ -s "$work/account/.quillon_prefs" ]
-  done
-else
-  echo "skipped: no HOME, since this system gives no namespace for an account of ours"
-fi
-
-export HOME="$work/a plain home"
-check "an empty environment but for HOME" starts "$HOME" env -i HOME="$HOME"
-check "no home folder: told by the status" \
-  bash -c "! HOME='$work/none' timeout 20 '$program' --start >/dev/null 2>&1"
+for setting in -uHOME HOME= HOME=relative; do
+  # Not each system gives a namespace for an account of ours.
+  asAccount true 2>/dev/null || break
+  rm -f "$work/account/.quillon_prefs"
+  asAccount env "$setting" timeout 20 "$program" --start
+  check "env $setting" [ -s "$work/account/.quillon_prefs" ]
+done
 
 # A closed stream must not be taken for a file that is opened later: the file would get the lines.
 for streams in '<&-' '>&-' '2>&-' '<&- >&- 2>&-'; do
@@ -72,12 +58,6 @@ yes 'disk /some/where.dsk' | head -n 2000 >"$HOME/.quillon_prefs"
 check "a full pipe that nobody reads" bash -c "timeout 20 '$program' --start >'$work/pipe'"
 check "and a complete file" lines $((2000 + keys))
 exec 9>&-
-
-rm -f "$work/found"
-env -i HOME="$HOME" B='two words' A=$'new\nline' LANG=xx "$program" --start >/dev/null
-for _ in {1..100}; do [ -s "$work/found" ] || sleep 0.05; done
-check "the emulator gets the environment as it is" cmp "$work/found" \
-  <(printf '%s\0' "HOME=$HOME" 'B=two words' $'A=new\nline' LANG=xx)
 
 # Each image writes all lists as they are by then, which is more than a disk holds: the lines end
 # where there are too many of them.

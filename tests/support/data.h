@@ -56,6 +56,14 @@ struct Case {
   [[nodiscard]] std::vector<std::string> all(const std::string& field) const {
     return has(field) ? fields.at(field) : std::vector<std::string>();
   }
+  /// The texts of a field, each with a line feed behind it.
+  [[nodiscard]] std::string lines(const std::string& field) const {
+    std::string text;
+    for (const std::string& line : all(field)) {
+      text += line + "\n";
+    }
+    return text;
+  }
   /// The only text of a field; empty when there is none.
   [[nodiscard]] std::string operator[](const std::string& field) const {
     return has(field) ? fields.at(field).at(0) : std::string();

@@ -74,7 +74,7 @@ inline std::vector<Edit> editsIn(const std::string& file) {
   std::vector<Edit> edits;
   for (const Case& each : cases(file, {"control", "types", "chooses entry", "clicks until it is",
                                        "steps", "says", "saves", "part of the screen"})) {
-    Edit edit{.control = each["control"]};
+    Edit edit{.control = each["control"], .said = each.lines("says")};
     if (each.has("types")) {
       edit.typed = each["types"];
     } else if (each.has("chooses entry")) {
@@ -84,9 +84,6 @@ inline std::vector<Edit> editsIn(const std::string& file) {
     } else {
       const std::string& state = each["clicks until it is"];
       edit.clicked = state == "on" ? State::on : state == "off" ? State::off : State::mixed;
-    }
-    for (const std::string& line : each.all("says")) {
-      edit.said += line + "\n";
     }
     for (const std::string& line : each.all("saves")) {
       edit.values.emplace_back(keyOf(line), line.substr(line.find(' ') + 1));

@@ -9,7 +9,6 @@ namespace volumes {
 namespace {
 
 using platform::Location;
-using Strings = std::vector<std::string>;
 
 struct VolumeTableTest : testing::Test {
   tests::FakeHost host;
@@ -61,60 +60,40 @@ TEST_F(VolumeTableTest, DropsRowsAboveARow) {
   }
 }
 
-TEST_F(VolumeTableTest, AddsWhatIsChosen) {
+TEST_F(VolumeTableTest, SaysWhatIsDone) {
   VolumeTable table(host.output, host.panels);
   load(table, "A");
   host.home.write("B", "12");
-  const auto unfit = platform::Location::fromPath("/a\nb");
-  const std::string refused = "A line feed cannot stand in the preferences file: file:///a%0Ab\n";
-  host.panels.answers = {{}, {unfit}, {at("B"), unfit, at("A"), at("gone")}};
-  table.browseFile.sendAction();
-  EXPECT_EQ(host.said(), "") << "a cancel adds nothing";
-  table.browseFile.sendAction();
-  EXPECT_EQ(host.said(), refused);
-  table.browseFile.sendAction();
-  std::string said = refused + "[1, 2]\n[1, 2, 1]\nError: No such file or directory\n";
-  for (const char* const name : {"A", "B", "A", "gone"}) {
-    said += "allfiles: (volName) counter: " + at(name).text() + "\n";
+  host.home.write("folder/in it", "");
+  for (const tests::Case& each : tests::cases(
+           "volume-steps.txt", {"click", "state", "chosen", "shows", "says"}, host.home.path())) {
+    SCOPED_TRACE(each.written);
+    host.panels.answers.assign(1, {});
+    for (const std::string& path : each.all("chosen")) {
+      host.panels.answers.back().push_back(Location::fromPath(path));
+    }
+    for (platform::Button* const button : {&table.browseFile, &table.sheetCreate, &table.ronMode}) {
+      if (button->name() == each["click"]) {
+        button->setState(each["state"] == "on"    ? platform::State::on
+                         : each["state"] == "off" ? platform::State::off
+                                                  : platform::State::mixed);
+        button->sendAction();
+      }
+    }
+    table.viewFor(1, 0);
+    EXPECT_EQ(host.said(), each.lines("says"));
+    EXPECT_EQ(std::exchange(host.panels.shown, {}), each["shows"]);
   }
-  EXPECT_EQ(host.said(), said);
-  EXPECT_EQ(table.volumes().volName(), (std::vector{at("A"), at("B"), at("A"), at("gone")}));
-  EXPECT_EQ(table.volumes().volSize(), (std::vector<std::int64_t>{1, 2, 1, 0}));
-  EXPECT_EQ(table.volumes().volType(), Strings(4, "Disk Image"));
+  EXPECT_EQ(table.volumes().volName(),
+            (std::vector{at("A"), at("B"), at("A"), at("gone"), at("folder")}));
+  EXPECT_EQ(table.volumes().volSize(), (std::vector<std::int64_t>{1, 2, 1, 0, 0}));
+  EXPECT_EQ(table.volumes().volType(), std::vector<std::string>(5, "Disk Image"));
   const platform::OpenPanel& panel = host.panels.open;
-  EXPECT_EQ(host.panels.shown, "sheet Select a volume");
   EXPECT_TRUE(panel.allowsMultipleSelection && panel.canChooseFiles && panel.canCreateDirectories);
   EXPECT_FALSE(panel.canChooseDirectories);
   EXPECT_EQ(platform::listText(panel.allowedFileTypes),
             R"(["img", "dmg", "dsk", "image", "cdr", "iso", "toast", "sparsebundle", "sparse", )"
             R"("dc42", "hfv", "hvf", "hfs", "ndif", "dk*", "cue"])");
-}
-
-TEST_F(VolumeTableTest, ReadsTheListThatTheMarkTells) {
-  VolumeTable table(host.output, host.panels);
-  load(table, "A");
-  const auto expectAfter = [&](platform::State state, const std::string& said) {
-    const std::size_t before = table.tableView.revision();
-    table.ronMode.setState(state);
-    table.ronMode.sendAction();
-    EXPECT_EQ(table.tableView.revision() != before, state != platform::State::mixed);
-    table.viewFor(1, 0);
-    EXPECT_EQ(host.said(), said + "\n" + at("A").text() + "\n");
-  };
-  EXPECT_TRUE(table.ronMode.isOn());
-  expectAfter(platform::State::off, "0\nronMode off\nloCalmode volRegular");
-  expectAfter(platform::State::mixed, "-1\nloCalmode volRegular");
-  expectAfter(platform::State::on, "1\nronMode on\nloCalmode volLocal");
-}
-
-TEST_F(VolumeTableTest, OnlyTellsThePlaceOfTheSavePanel) {
-  VolumeTable table(host.output, host.panels);
-  host.panels.answers = {{}, {at("new.dsk")}};
-  table.sheetCreate.sendAction();
-  table.sheetCreate.sendAction();
-  EXPECT_EQ(host.said(), at("new.dsk").text() + "\n");
-  EXPECT_EQ(host.panels.shown, "save sheet Create a new blank volume");
-  EXPECT_EQ(table.numberOfRows(), 0U);
 }
 
 }  // namespace
