@@ -178,10 +178,23 @@ ButtonWidget* Controls::checkable(platform::Button& control, const QString& text
     button->setEnabled(control.isEnabled());
     button->setChecked(control.isOn());
   });
-  QObject::connect(button, &ButtonWidget::clicked, &connections_, [this, &control](bool checked) {
+  const auto store = [this, &control](bool checked) {
     edits_.endEditing();
     control.edit([&] { control.setOn(checked); });
-  });
+  };
+  QObject::connect(button, &ButtonWidget::clicked, &connections_, store);
+  // The action that Qt (6.4) offers to screen readers makes QAbstractButton emit toggled, but not
+  // clicked. Queued, this comes after clicked, when the control has the state already. A radio
+  // button goes off because another one goes on, which tells of both.
+  QObject::connect(
+      button, &ButtonWidget::toggled, &connections_,
+      [button, store, &control] {
+        const bool isOn = button->isChecked();
+        if (isOn != control.isOn() && (isOn || !button->autoExclusive())) {
+          store(isOn);
+        }
+      },
+      Qt::QueuedConnection);
   return button;
 }
 

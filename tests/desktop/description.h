@@ -11,16 +11,13 @@
 
 namespace tests {
 
-/// What a screen reader calls a widget. A combo box is named by its value: its label tells what it
+/// What a screen reader calls something. A combo box is named by its value: its label tells what it
 /// is.
-inline QString spokenName(QWidget* widget) {
-  const auto* const face = QAccessible::queryAccessibleInterface(widget);
-  for (const auto& [other, relation] : face->relations(QAccessible::Label)) {
-    if (face->role() == QAccessible::ComboBox) {
-      return other->text(QAccessible::Name);
-    }
-  }
-  return face->text(QAccessible::Name);
+inline QString spokenName(const QAccessibleInterface& face) {
+  const auto labels = face.relations(QAccessible::Label);
+  return face.role() == QAccessible::ComboBox && !labels.empty()
+             ? labels.front().first->text(QAccessible::Name)
+             : face.text(QAccessible::Name);
 }
 
 /// What a person comes upon in a window, in the order of the Tab key: labels as they are written,
@@ -46,7 +43,7 @@ inline std::string described(QWidget& window, const std::function<bool(QWidget*)
         const QString value = isTable ? QString() : face->text(QAccessible::Value);
         const auto* const button = qobject_cast<QPushButton*>(widget);
         text += QLatin1String("%1 %2 \"%3\" %4%5%6\n")
-                    .arg(QLatin1String(widget->metaObject()->className()), name, spokenName(widget),
+                    .arg(QLatin1String(widget->metaObject()->className()), name, spokenName(*face),
                          value, QLatin1String(widget->isEnabled() ? "" : " (disabled)"),
                          QLatin1String(button != nullptr && button->isDefault() ? " (default)"
                                        : widget->property("checked").toBool()   ? " (on)"

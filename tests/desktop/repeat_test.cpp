@@ -21,26 +21,16 @@ class Repeat : public tests::WindowTest {
 };
 
 TEST_F(Repeat, WhateverIsHeldOrPressedTwiceStartsOnce) {
-  const auto holdsKeys = [] { hold(Qt::Key_Return, Qt::ControlModifier); };
-  const auto holdsSpace = [this] {
-    enter("startQuil");
-    hold(Qt::Key_Space);
-  };
-  const auto clicksTwice = [this] {
-    click("startQuil");
-    click("startQuil");
-  };
-  const auto clicksAndPresses = [this] {
-    click("startQuil");
-    press("Ctrl+Return");
-  };
-  for (const auto& start :
-       std::vector<std::function<void()>>{holdsKeys, holdsSpace, clicksTwice, clicksAndPresses}) {
-    fake.said();
-    open();
-    start();
-    EXPECT_EQ(starts(), 1);
-  }
+  open();
+  hold(Qt::Key_Return, Qt::ControlModifier);
+  press("Ctrl+Return");
+  EXPECT_EQ(starts(), 1);
+  open();
+  fake.said();
+  enter("startQuil");
+  hold(Qt::Key_Space);
+  click("startQuil");
+  EXPECT_EQ(starts(), 1);
   QTest::qWait(2001);
   click("startQuil");
   EXPECT_EQ(starts(), 2);

@@ -77,10 +77,11 @@ TEST_F(Window, MarksWhatASaveWouldChange) {
   expectMarked({"romFile", "stateCDROM", "cpuType"});
   press("Ctrl+S");
   expectMarked({});
-  typeInto("screenWidth", "12");
-  press("Return");
   find<QAbstractItemView>("tableView")->selectAll();
   click("removeVol");
+  expectMarked({"tableView"});
+  typeInto("screenWidth", "12");
+  press("Return");
   expectMarked({"screenType", "screenWidth", "screenHeight", "tableView"});
 }
 
