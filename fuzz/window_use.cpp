@@ -30,9 +30,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     } else if (data[at] % 8 == 1) {
       reset(static_cast<Key>(number % model.values.size()));
     } else {
-      const tests::Edit& edit = tests::edits().at(number % tests::edits().size());
-      tests::perform(window, edit);
-      edit.applyTo(model);
+      const tests::Case& edit = tests::edits().at(number % tests::edits().size());
+      tests::perform(edit, window);
+      tests::apply(edit, model);
     }
   }
   save();

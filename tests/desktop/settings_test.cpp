@@ -3,23 +3,22 @@
 
 namespace {
 
-using tests::Edit;
-
 class Settings : public tests::WindowTest {
  protected:
   /// Does it as a person does, on the tab where the control is.
-  void perform(const Edit& edit) {
-    QWidget* const widget = enter(edit.control.c_str());
-    if (edit.typed) {
-      typeInto(edit.control.c_str(), edit.typed->c_str());
+  void perform(const tests::Case& edit) {
+    QWidget* const widget = enter(edit["control"].c_str());
+    if (edit.has("types")) {
+      typeInto(edit["control"].c_str(), edit["types"].c_str());
       press("Tab");
     } else if (auto* const box = qobject_cast<QComboBox*>(widget)) {
-      box->setCurrentIndex(static_cast<int>(*edit.chosen));  // as the list does
-      Q_EMIT box->activated(static_cast<int>(*edit.chosen));
-    } else if (edit.clicked) {
-      click(edit.control.c_str());
+      const auto entry = static_cast<int>(tests::entryIn(edit));
+      box->setCurrentIndex(entry);  // as the list does
+      Q_EMIT box->activated(entry);
+    } else if (edit.has("clicks until it is")) {
+      click(edit["control"].c_str());
     }
-    for (int step = 0; step < edit.steps; ++step) {
+    for (int step = 0; edit.has("steps") && step < std::stoi(edit["steps"]); ++step) {
       press("Up");
     }
   }
@@ -28,11 +27,11 @@ class Settings : public tests::WindowTest {
 TEST_F(Settings, EachWidgetEditsItsOwn) {
   open();
   tests::Model model("");
-  for (const Edit& edit : tests::edits()) {
+  for (const tests::Case& edit : tests::edits()) {
     perform(edit);
-    edit.applyTo(model);
+    tests::apply(edit, model);
     press("Ctrl+S");
-    EXPECT_EQ(file(), model.text()) << edit.control << " " << edit.said;
+    EXPECT_EQ(file(), model.text()) << edit.written;
   }
 }
 

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/data.h"
-#include "tests/support/model.h"
 #include "tests/support/temporary_folder.h"
 
 namespace document {
@@ -12,18 +11,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* fileName = ".quillon_prefs";
-
-TEST(Preferences, MakesTheFirstFileInAHomeThatIsNoUrl) {
-  const tests::TemporaryFolder home;
-  const std::string name = "\u00d6l 9%20?#";
-  fs::create_directory(home.path(name));
-  platform::BufferOutput output;
-  Preferences opened(home.path(name), output);
-  opened.load();
-  EXPECT_EQ(home.read(name + "/" + fileName), tests::Model("").text());
-  EXPECT_NE(output.text.find("file://" + home.path() + "/%C3%96l%209%2520%3F%23/" + fileName),
-            std::string::npos);
-}
 
 TEST(Preferences, SavesAndCopiesToWhatIsAValidLocation) {
   const tests::TemporaryFolder home;

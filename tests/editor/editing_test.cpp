@@ -7,8 +7,7 @@
 namespace editor {
 namespace {
 
-using tests::Edit;
-using tests::State;
+using platform::State;
 
 /// A started window over a preferences file, and what a save of it must write.
 struct OpenWindow {
@@ -18,13 +17,13 @@ struct OpenWindow {
     host.said();
   }
 
-  void expectSaidAndSaved(const std::vector<Edit>& edits) {
-    for (const Edit& edit : edits) {
-      SCOPED_TRACE(edit.control + " " + edit.said);
+  void expectSaidAndSaved(const std::vector<tests::Case>& edits) {
+    for (const tests::Case& edit : edits) {
+      SCOPED_TRACE(edit.written);
       host.said();
-      tests::perform(controller, edit);
-      edit.applyTo(model);
-      EXPECT_EQ(host.said(), edit.said);
+      tests::perform(edit, controller);
+      tests::apply(edit, model);
+      EXPECT_EQ(host.said(), edit.lines("says"));
       expectSaved();
     }
   }

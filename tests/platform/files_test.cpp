@@ -22,19 +22,6 @@ struct FilesTest : ::testing::Test {
   std::error_code error;
 };
 
-TEST_F(FilesTest, WritingKeepsLinksAndMode) {
-  const std::string file = folder.write("prefs", "a long former content\n");
-  fs::permissions(file, fs::perms(0600));
-  fs::create_symlink("prefs", folder.path("soft"));
-  fs::create_hard_link(file, folder.path("hard"));
-  for (const auto* const content : {"short\n", "", "a content that is longer than before\n"}) {
-    EXPECT_FALSE(writeFile(folder.path("soft"), content));
-    EXPECT_EQ(folder.read("hard"), content);
-  }
-  EXPECT_TRUE(fs::is_symlink(folder.path("soft")));
-  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
-}
-
 TEST_F(FilesTest, RefusesWhatIsNoFileWithoutWaiting) {
   ASSERT_EQ(::mkfifo(folder.path("fifo").c_str(), 0600), 0);
   const std::pair<std::string, std::errc> cases[] = {

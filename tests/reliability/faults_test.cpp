@@ -130,10 +130,11 @@ struct Operation {
 bool expectAllOrNothing(const Operation& operation, const Fault& planned) {
   const auto& [before, after, succeeds] = operation;
   const TemporaryFolder folder;
-  folder.write("copied", after);
+  folder.write("copied", textWith(2));
   fs::create_symlink(prefs, folder.path("link"));
   if (!before.empty()) {
-    folder.write(prefs, before);
+    fs::permissions(folder.write(prefs, before), fs::perms(0604));
+    fs::create_hard_link(folder.path(prefs), folder.path("hard"));
   }
   fault() = planned;
   const bool succeeded = succeeds(folder);
@@ -144,6 +145,8 @@ bool expectAllOrNothing(const Operation& operation, const Fault& planned) {
   const bool isZeroed = planned.call == "pwrite" && file == std::string(before.size(), '\0');
   EXPECT_TRUE(succeeded ? file == after : file == before || isReplaced || isZeroed) << file.size();
   EXPECT_EQ(platform::fileExists(folder.path(prefs)), !file.empty());
+  EXPECT_EQ(folder.read("hard"), before.empty() ? "" : file);
+  EXPECT_TRUE(before.empty() || fs::status(folder.path(prefs)).permissions() == fs::perms(0604));
   EXPECT_TRUE(succeeded || planned.error != EINTR);
   return struck;
 }

@@ -1,10 +1,8 @@
 #pragma once
 
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "editor/view_controller.h"
@@ -12,8 +10,6 @@
 #include "tests/support/model.h"
 
 namespace tests {
-
-using platform::State;
 
 /// The controls that show settings, in the order of their keys.
 inline std::vector<platform::Control*> settingControls(editor::ViewController& window) {
@@ -45,80 +41,57 @@ inline platform::Control& settingControl(editor::ViewController& window, std::st
   throw std::logic_error("no control " + std::string(name));
 }
 
-/// One thing that a person does to a control, and what comes of it.
-struct Edit {
-  std::string control;
-  std::optional<std::string> typed = {};
-  std::optional<std::size_t> chosen = {};  // the entry
-  std::optional<State> clicked = {};       // the state that a click leads to
-  int steps = 0;
-
-  std::string said = {};
-  std::vector<std::pair<Key, std::string>> values = {};  // that a save then writes
-  std::optional<std::size_t> screenPart = {};            // the value is but a part of the screen's
-
-  /// Changes what a save is to write. Steps are from the value before.
-  void applyTo(Model& model) const {
-    for (const auto& [key, value] : values) {
-      if (screenPart) {
-        model.setScreenPart(*screenPart, value);
-      } else {
-        model[key] = steps == 0 ? value : std::to_string(std::stoi(model[key]) + steps);
-      }
-    }
-  }
-};
-
-/// The edits in a file below tests/data, in which they say what they are told to say in this order.
-inline std::vector<Edit> editsIn(const std::string& file) {
-  std::vector<Edit> edits;
-  for (const Case& each : cases(file, {"control", "types", "chooses entry", "clicks until it is",
-                                       "steps", "says", "saves", "part of the screen"})) {
-    Edit edit{.control = each["control"], .said = each.lines("says")};
-    if (each.has("types")) {
-      edit.typed = each["types"];
-    } else if (each.has("chooses entry")) {
-      edit.chosen = std::stoul(each["chooses entry"]) - 1;
-    } else if (each.has("steps")) {
-      edit.steps = std::stoi(each["steps"]);
-    } else {
-      const std::string& state = each["clicks until it is"];
-      edit.clicked = state == "on" ? State::on : state == "off" ? State::off : State::mixed;
-    }
-    for (const std::string& line : each.all("saves")) {
-      edit.values.emplace_back(keyOf(line), line.substr(line.find(' ') + 1));
-    }
-    if (each.has("part of the screen")) {
-      edit.screenPart = std::stoul(each["part of the screen"]) - 1;
-    }
-    edits.push_back(std::move(edit));
-  }
-  return edits;
+/// The edits in a file below tests/data: what a person does to a control, the lines that it says,
+/// and those that a save then writes.
+inline std::vector<Case> editsIn(const std::string& file) {
+  return cases(file, {"control", "types", "chooses entry", "clicks until it is", "steps", "says",
+                      "saves", "part of the screen"});
 }
 
-inline const std::vector<Edit>& edits() {
-  static const std::vector<Edit> all = editsIn("edits.txt");
+inline const std::vector<Case>& edits() {
+  static const std::vector<Case> all = editsIn("edits.txt");
   return all;
 }
 
+/// The entry that an edit chooses, counted from 0.
+inline std::size_t entryIn(const Case& edit) { return std::stoul(edit["chooses entry"]) - 1; }
+
+/// Changes what a save is to write. Steps are from the value before.
+inline void apply(const Case& edit, Model& model) {
+  for (const std::string& line : edit.all("saves")) {
+    const Key key = keyOf(line);
+    const std::string value = line.substr(line.find(' ') + 1);
+    if (edit.has("part of the screen")) {
+      model.setScreenPart(std::stoul(edit["part of the screen"]) - 1, value);
+    } else if (edit.has("steps")) {
+      model[key] = std::to_string(std::stoi(model[key]) + std::stoi(edit["steps"]));
+    } else {
+      model[key] = value;
+    }
+  }
+}
+
 /// Edits the control itself, without a window.
-inline void perform(editor::ViewController& window, const Edit& edit) {
-  platform::Control& control = settingControl(window, edit.control);
+inline void perform(const Case& edit, editor::ViewController& window) {
+  platform::Control& control = settingControl(window, edit["control"]);
   control.edit([&] {
     if (auto* const box = dynamic_cast<platform::ComboBox*>(&control)) {
-      if (edit.typed) {
-        box->enterText(*edit.typed);
+      if (edit.has("types")) {
+        box->enterText(edit["types"]);
       } else {
-        box->selectItem(*edit.chosen);
+        box->selectItem(entryIn(edit));
       }
     } else if (auto* const field = dynamic_cast<platform::TextField*>(&control)) {
-      field->setStringValue(*edit.typed);
+      field->setStringValue(edit["types"]);
     } else if (auto* const button = dynamic_cast<platform::PopUpButton*>(&control)) {
-      button->selectItem(*edit.chosen);
+      button->selectItem(entryIn(edit));
     } else if (auto* const stepper = dynamic_cast<platform::Stepper*>(&control)) {
-      stepper->setIntegerValue(stepper->valueAfter(edit.steps));
+      stepper->setIntegerValue(stepper->valueAfter(std::stoi(edit["steps"])));
     } else {
-      dynamic_cast<platform::Button&>(control).setState(*edit.clicked);
+      const std::string state = edit["clicks until it is"];
+      dynamic_cast<platform::Button&>(control).setState(state == "on"    ? platform::State::on
+                                                        : state == "off" ? platform::State::off
+                                                                         : platform::State::mixed);
     }
   });
 }
