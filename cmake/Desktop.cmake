@@ -1,7 +1,8 @@
 # The window: the room desktop/, the program on top of all rooms, and its bundle.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets LinguistTools)
 
-add_room(desktop PUBLIC checks editor app volumes document platform Qt6::Widgets)
+# Qt comes first: the dynamic linker looks for each of its symbols in the libraries in their order.
+add_room(desktop PUBLIC Qt6::Widgets checks editor app volumes document platform)
 set_target_properties(desktop PROPERTIES AUTOMOC ON)
 
 set(bundle ${CMAKE_BINARY_DIR}/QuillonSettings.app)

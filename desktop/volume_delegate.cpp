@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
+#include <utility>
 
 #include "desktop/appearance.h"
 #include "desktop/checks_texts.h"
@@ -60,7 +61,7 @@ class CellPainter {
   void paintPath(const QString& path) {
     const auto name = path.lastIndexOf(QLatin1Char('/')) + 1;
     QFont strong = cell_.font;
-    strong.setWeight(QFont::DemiBold);
+    strong.setBold(true);  // QHeaderView has loaded this face already, to measure its sections
     const int width = draw(leftToRight(path.mid(name)), strong, text_,
                            Qt::AlignLeading | Qt::AlignVCenter, Qt::ElideMiddle);
     take(width + cell_.fontMetrics.averageCharWidth(), Qt::AlignLeft);
@@ -131,6 +132,18 @@ void VolumeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
     const QString kind = QCoreApplication::translate("Kinds", option->text.toUtf8().constData());
     option->text = kind.isRightToLeft() ? kind : leftToRight(kind);
   }
+}
+
+// The table asks for the same few kinds and sizes of images whenever a row or its own width
+// changes, and the base class lays each of them out every time.
+QSize VolumeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  if (std::exchange(measuredFont_, option.font) != option.font) {
+    sizes_.clear();
+  }
+  const auto place = sizes_.find({index.column(), index.data().toString()});
+  return place != sizes_.end() ? *place
+                               : *sizes_.insert({index.column(), index.data().toString()},
+                                                QStyledItemDelegate::sizeHint(option, index));
 }
 
 void VolumeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
