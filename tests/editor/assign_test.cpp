@@ -10,17 +10,6 @@
 namespace editor {
 namespace {
 
-struct Assign : testing::Test {
-  Assign() { window.viewDidLoad(); }
-
-  [[nodiscard]] Setting& setting(Key key) {
-    return *window.settingsInKeyOrder().at(document::indexOf(key));
-  }
-
-  tests::FakeHost host;
-  ViewController window{host.host()};
-};
-
 /// The lines of `after` that are not in `before`.
 std::string changes(const std::string& before, const std::string& after) {
   std::string changed;
@@ -32,7 +21,10 @@ std::string changes(const std::string& before, const std::string& after) {
 }
 
 // In one window: a control may not keep anything of the value before.
-TEST_F(Assign, StoresTheValueAndShowsIt) {
+TEST(Assign, StoresTheValueAndShowsIt) {
+  tests::FakeHost host;
+  ViewController window(host.host());
+  window.viewDidLoad();
   tests::Golden golden("assigned.txt", host.home.path());
   std::istringstream lines(golden.section("Assigned one after the other"));
   std::string shown;
@@ -42,8 +34,9 @@ TEST_F(Assign, StoresTheValueAndShowsIt) {
     const Key key = tests::keyOf(line);
     const std::string before = tests::shownBy(window);
     model[key] = line.substr(line.find(' ') + 1);
-    setting(key).assign(model[key]);
-    shown += line + " is shown as " + setting(key).shownValue() + "\n" +
+    Setting& setting = *window.settingsInKeyOrder().at(document::indexOf(key));
+    setting.assign(model[key]);
+    shown += line + " is shown as " + setting.shownValue() + "\n" +
              changes(before, tests::shownBy(window));
     EXPECT_TRUE(window.savePrefsAny());
     EXPECT_EQ(host.home.read(tests::FakeHost::prefs), model.text()) << line;
@@ -53,7 +46,9 @@ TEST_F(Assign, StoresTheValueAndShowsIt) {
   golden.expect("What is shown", shown);
 }
 
-TEST_F(Assign, AKeyWithoutASettingOrWithTwoIsNamedAtOnce) {
+TEST(Assign, AKeyWithoutASettingOrWithTwoIsNamedAtOnce) {
+  tests::FakeHost host;
+  const ViewController window(host.host());
   EXPECT_DEATH(settingsByKey({&window.jit}), "No setting for the key extfs");
   EXPECT_DEATH(settingsByKey({&window.jit, &window.jit}),
                "Two settings for the key noclipconversion");

@@ -10,19 +10,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::ptrdiff_t openDescriptors() {
-  return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
-}
-
-struct FilesTest : ::testing::Test {
-  ~FilesTest() override { EXPECT_EQ(openDescriptors(), before) << "one is left open"; }
-
-  std::ptrdiff_t before = openDescriptors();
-  tests::TemporaryFolder folder;
+TEST(Files, RefusesWhatIsNoFileWithoutWaiting) {
+  const tests::TemporaryFolder folder;
   std::error_code error;
-};
-
-TEST_F(FilesTest, RefusesWhatIsNoFileWithoutWaiting) {
   ASSERT_EQ(::mkfifo(folder.path("fifo").c_str(), 0600), 0);
   const std::pair<std::string, std::errc> cases[] = {
       {folder.path(), std::errc::is_a_directory},
@@ -38,7 +28,9 @@ TEST_F(FilesTest, RefusesWhatIsNoFileWithoutWaiting) {
   }
 }
 
-TEST_F(FilesTest, ReadsWithinItsLimits) {
+TEST(Files, ReadsWithinItsLimits) {
+  const tests::TemporaryFolder folder;
+  std::error_code error;
   const std::string file = folder.write("latin", "123456789\xe9");
   EXPECT_TRUE(readFile(file, error, 10));
   EXPECT_FALSE(readTextFile(file, error));

@@ -13,16 +13,6 @@ TEST(Text, DropsWholeCharacters) {
   }
 }
 
-TEST(Text, ParsesWholeIntegers) {
-  EXPECT_EQ(parseInt64("+7"), 7);
-  EXPECT_EQ(parseInt64("-9223372036854775808"), INT64_MIN);
-  EXPECT_EQ(parseInt32("-2147483648"), INT32_MIN);
-  EXPECT_FALSE(parseInt32("2147483648"));
-  for (const auto* text : {"", "+", "-", "+-1", " 1", "1 ", "0x10", "1.5", "9223372036854775808"}) {
-    EXPECT_FALSE(parseInt64(text)) << text;
-  }
-}
-
 TEST(ByteCountFormatter, WritesCounts) {
   using Style = ByteCountFormatter::CountStyle;
   const std::map<std::string, ByteCountFormatter> formatters = {
