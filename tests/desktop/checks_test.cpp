@@ -98,6 +98,8 @@ TEST_F(Checks, AFactThatTakesTenSecondsStopsNothing) {
   clock.start();
   open("disk a.dsk\n", facts);
   expectTold("Problem: No ROM file is chosen.");  // which takes no file to know
+  calls->store(0);
+  open("disk a.dsk\n", facts);  // the first window ends before its facts are there
   typeInto("romFile", "mac.rom");
   press("Return");
   expectTold("Ready to start.");  // facts for another state overtake it
@@ -105,14 +107,7 @@ TEST_F(Checks, AFactThatTakesTenSecondsStopsNothing) {
   EXPECT_NE(file().find("\nrom mac.rom\n"), std::string::npos);
   click("startQuil");
   EXPECT_NE(fake.said().find("<launch "), std::string::npos);
-  window.reset();
   EXPECT_LT(clock.elapsed(), std::chrono::milliseconds(slow).count() / 2);
-
-  calls->store(0);
-  open("disk a.dsk\n", facts);
-  typeInto("romFile", "mac.rom");
-  press("Return");
-  expectTold("Ready to start.");
   end->set_value();
   QTest::qWait(100);
   expectTold("Ready to start.");  // an outdated result counts for nothing

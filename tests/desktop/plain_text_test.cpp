@@ -8,17 +8,23 @@ namespace {
 
 const QString html = QLatin1String("<img src=\"x\">");
 
-/// Looks at all that is shown, and counts how often the text from outside is.
 class PlainText : public tests::WindowTest {
  protected:
-  void look() {
+  /// Looks at all that is shown, and returns how often the text from outside is.
+  static int look() {
+    int seen = 0;
     for (QWidget* const widget : QApplication::allWidgets()) {
       SCOPED_TRACE(widget->objectName().toStdString());
-      lookAtToolTip(widget->toolTip());
-      if (auto* const face = QAccessible::queryAccessibleInterface(widget)) {
-        for (const auto part : {QAccessible::Name, QAccessible::Description, QAccessible::Value}) {
-          lookAtSpoken(face->text(part));
-        }
+      QStringList toolTips(widget->toolTip());
+      QStringList spoken;
+      if (const auto* const face = QAccessible::queryAccessibleInterface(widget)) {
+        spoken = {face->text(QAccessible::Name), face->text(QAccessible::Description),
+                  face->text(QAccessible::Value)};
+      }
+      if (widget->objectName() == QLatin1String("tableView")) {
+        const auto cell = qobject_cast<QAbstractItemView*>(widget)->model()->index(0, 0);
+        toolTips += cell.data(Qt::ToolTipRole).toString();
+        spoken += cell.data(Qt::AccessibleTextRole).toString();
       }
       if (const auto* const label = qobject_cast<QLabel*>(widget)) {
         // A status line will show names of files, whatever it shows now.
@@ -26,24 +32,12 @@ class PlainText : public tests::WindowTest {
             label->text().contains(html) || label->inherits("desktop::StatusLine");
         EXPECT_TRUE(label->textFormat() == Qt::PlainText || !fromOutside);
       }
-      if (widget->objectName() == QLatin1String("tableView")) {
-        const auto cell = qobject_cast<QAbstractItemView*>(widget)->model()->index(0, 0);
-        lookAtToolTip(cell.data(Qt::ToolTipRole).toString());
-        lookAtSpoken(cell.data(Qt::AccessibleTextRole).toString());
-      }
+      const QString escaped = html.toHtmlEscaped();
+      EXPECT_TRUE(toolTips.filter(html).empty()) << toolTips.join('\n').toStdString();
+      EXPECT_TRUE(spoken.filter(escaped).empty()) << spoken.join('\n').toStdString();
+      seen += static_cast<int>(toolTips.filter(escaped).size() + spoken.filter(html).size());
     }
-  }
-
-  int seen = 0;
-
- private:
-  void lookAtToolTip(const QString& text) {
-    EXPECT_FALSE(text.contains(html)) << text.toStdString();
-    seen += text.contains(html.toHtmlEscaped()) ? 1 : 0;
-  }
-  void lookAtSpoken(const QString& text) {
-    EXPECT_FALSE(text.contains(html.toHtmlEscaped())) << text.toStdString();
-    seen += text.contains(html) ? 1 : 0;
+    return seen;
   }
 };
 
@@ -58,9 +52,8 @@ TEST_F(PlainText, WhatComesFromOutsideIsNeverHtml) {
   click("openPreferences");
   activate(&*window);
   click("bitCreate");
-  look();
   // The path in the table twice, the folder in the sheet, Quillon's place, and most keys.
-  EXPECT_GE(seen, 15);
+  EXPECT_GE(look(), 15);
 }
 
 }  // namespace

@@ -70,25 +70,17 @@ TEST_F(Volumes, ShowWhatTheyAreAndWhatIsMissing) {
   std::filesystem::copy_file(QUILLON_SOURCE "/resources/HappyMac.png", fake.home.path(picture));
   const std::string image = fake.home.write("a <b>.dsk", std::string(1'474'560, '\0'));
   openList("disk " + image + "\ndisk /gone.dsk\n");
-  struct Column {
-    const char* title;
-    std::string text;
-    bool endsAtRight = false;
-  };
-  int number = 0;
-  for (const auto& [title, text, endsAtRight] :
-       {Column{.title = "Disk image", .text = image},
-        Column{.title = "Size", .text = "1.5 MB", .endsAtRight = true},
-        Column{.title = "Kind", .text = "Disk Image"}}) {
+  const char* const titles[] = {"Disk image", "Size", "Kind"};
+  const std::string texts[] = {image, "1.5 MB", "Disk Image"};
+  for (const int column : {0, 1, 2}) {
     const auto headed = [&](int role) {
-      return table->model()->headerData(number, Qt::Horizontal, role);
+      return table->model()->headerData(column, Qt::Horizontal, role);
     };
-    EXPECT_EQ(headed(Qt::DisplayRole).toString(), QLatin1String(title));
-    EXPECT_EQ(cell(0, number).data().toString().toStdString(), text);
-    const QVariant side = cell(0, number).data(Qt::TextAlignmentRole);
+    EXPECT_EQ(headed(Qt::DisplayRole).toString(), QLatin1String(titles[column]));
+    EXPECT_EQ(cell(0, column).data().toString().toStdString(), texts[column]);
+    const QVariant side = cell(0, column).data(Qt::TextAlignmentRole);
     EXPECT_EQ(side, headed(Qt::TextAlignmentRole));
-    EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, endsAtRight);
-    ++number;
+    EXPECT_EQ((side.toInt() & Qt::AlignRight) != 0, column == 1) << "numbers end at the right";
   }
   EXPECT_FALSE(cell(0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).isNull());
   EXPECT_GT(table->columnWidth(0), table->columnWidth(1) + table->columnWidth(2));
