@@ -1,5 +1,6 @@
 #include "desktop/settings_window.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
@@ -33,6 +34,12 @@ void bringUp(QWidget* window) {
   window->activateWindow();
 }
 
+// To Qt only a QMainWindow is a window for screen readers.
+QAccessibleInterface* makeWindow(const QString& /*className*/, QObject* object) {
+  auto* const window = qobject_cast<SettingsWindow*>(object);
+  return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
+}
+
 }  // namespace
 
 SettingsWindow::SettingsWindow(editor::ViewController& controller, const platform::Host& host,
@@ -50,11 +57,10 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   tabs_->setAccessibleName(tr("Settings"));
   guardWheel(tabs_->tabBar());
 
-  setMenuWidget(topRow());  // made first: the Tab key goes through the widgets as they were made
-  auto* const content = new QWidget;
-  auto* const layout = new QVBoxLayout(content);
+  QAccessible::installFactory(makeWindow);  // once, however often it is asked to
+  auto* const layout = new QVBoxLayout(this);
+  layout->setMenuBar(topRow());  // made first: the Tab key goes through widgets as they were made
   layout->addWidget(tabs_, 1);
-  setCentralWidget(content);
   layout->addWidget(help_);
   addPages();
   buildShortcuts();
@@ -62,7 +68,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   auto* const checksLine = new ChecksLine;
   layout->addWidget(checksLine, 0, Qt::AlignLeft);
   layout->addLayout(buttonRow());
-  help_->follow(content);
+  help_->follow(this);
   fillPage(editor::TabId::volumes);
   guardStart();
   // The action stays with the controller, which may outlive this window.
@@ -188,7 +194,7 @@ void SettingsWindow::completePages() {
 // A person sees one page first. The others are made, and files are looked at, once it is on the
 // screen.
 void SettingsWindow::paintEvent(QPaintEvent* event) {
-  QMainWindow::paintEvent(event);
+  QWidget::paintEvent(event);
   if (!pagesComplete_ || !checks_->isStarted()) {
     QTimer::singleShot(0, this, [this] {
       completePages();
@@ -316,7 +322,6 @@ QWidget* SettingsWindow::topRow() {
   layout->addWidget(find_);
   // A spacing changes sides with the reading direction; a contents margin does not.
   layout->addSpacing(style()->pixelMetric(QStyle::PM_LayoutRightMargin));
-  help_->follow(row);
   return row;
 }
 

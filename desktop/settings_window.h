@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QMainWindow>
 #include <QPointer>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QWidget>
 #include <array>
 #include <optional>
 
@@ -25,8 +25,10 @@
 
 namespace desktop {
 
-/// The settings window: the tabs, and below them, always in sight, the file and the buttons.
-class SettingsWindow : public QMainWindow {
+/// The settings window: the tabs, and below them, always in sight, the file and the buttons. It is
+/// no QMainWindow: the style Breeze 6 calls menuBar() of each, which deletes any other widget that
+/// was set as the menu.
+class SettingsWindow : public QWidget {
   Q_OBJECT
 
  public:
