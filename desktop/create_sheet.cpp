@@ -47,7 +47,6 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
   form->addRow(tr("&Name:"), name);
   addSize(*form);
   addFolder(*form);
-  centreLabels(*form);
 
   QPushButton* const create = controls_.pushButton(
       controller_.createImage, QString(), tr("Makes the image, and then closes this sheet."));
@@ -64,6 +63,7 @@ CreateSheet::CreateSheet(const platform::Host& host, volumes::ImageFolder& folde
 
   auto* const layout = new QVBoxLayout(this);
   layout->addLayout(form);
+  centreLabels(*form);  // widgets that have no parent yet take no room in a layout
   layout->addLayout(statusRow());
   layout->addLayout(buttons);
   setMinimumWidth(33 * fontMetrics().lineSpacing());

@@ -86,6 +86,7 @@ void SearchHitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
   }
   QTextOption direction;
   direction.setTextDirection(row.direction);
+  direction.setAlignment(QStyle::visualAlignment(row.direction, Qt::AlignLeft));
   direction.setWrapMode(QTextOption::NoWrap);
   layout.setTextOption(direction);
   layout.beginLayout();
