@@ -31,14 +31,11 @@ class Editing : public tests::WindowTest {
 
 TEST_F(Editing, WhatIsBeingTypedIsPartOfTheSaveHoweverItIsAskedFor) {
   const tests::Model wanted("ramsize 38797312\nrom /new rom\nscreen win/123/600\n");
-  for (const std::vector<const char*>& keys :
-       std::vector<std::vector<const char*>>{{"Return", "Ctrl+S"},
-                                             {"Tab", "Ctrl+S"},
-                                             {"Ctrl+S"},
-                                             {"Alt+S"},
-                                             {"Ctrl+Return"},
-                                             {"Alt+T"},
-                                             {"Alt+F", "S"}}) {
+  const std::vector<const char*> ways[] = {
+      {"Return", "Ctrl+S"}, {"Tab", "Ctrl+S"}, {"Ctrl+S"},     {"Alt+S"},
+      {"Ctrl+Return"},      {"Alt+T"},         {"Alt+F", "S"},
+  };
+  for (const auto& keys : ways) {
     SCOPED_TRACE(keys.front());
     open("ramsize 67108864\nrom /old\nscreen win/800/600\n");
     typeInto("screenWidth", "123");

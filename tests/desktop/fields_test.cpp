@@ -66,18 +66,14 @@ TEST_F(Fields, KeepTextsOfAnyLength) {
 }
 
 TEST_F(Fields, EndBeforeTheirWindowDoes) {
-  struct Place {
-    const char* field;
-    const char* opener = nullptr;  // of the window it is in
-  };
+  using Place = std::pair<const char*, const char*>;  // a field, and what opens its window
   for (const auto& [field, opener] :
-       {Place{.field = "romFile"}, Place{.field = "ramSizeMB"}, Place{.field = "portUDP"},
-        Place{.field = "findSetting"}, Place{.field = "filename_field"},
-        Place{.field = "Quillon", .opener = "openPreferences"},
-        Place{.field = "createName", .opener = "bitCreate"}}) {
+       {Place("romFile", ""), Place("ramSizeMB", ""), Place("portUDP", ""),
+        Place("findSetting", ""), Place("filename_field", ""), Place("Quillon", "openPreferences"),
+        Place("createName", "bitCreate")}) {
     open();
     app::sharedVar::startFlag = app::startCustom;
-    if (opener != nullptr) {
+    if (*opener != '\0') {
       openBy(opener);
     }
     const QPointer<QWidget> widget = enter(field);

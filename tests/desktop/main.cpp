@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMenu>
+#include <QMenuBar>
 #include <QTimer>
 #include <csignal>
 
@@ -16,12 +16,13 @@ namespace {
 
 // One thing that happens: "close", a signal's number, a button's name or a menu entry's text.
 void perform(QWidget* window, const QString& step) {
-  const auto entries = window->findChildren<QAction*>();
-  const auto entry = std::find_if(entries.begin(), entries.end(),
-                                  [&](const QAction* each) { return each->text() == step; });
-  if (entry != entries.end()) {
-    (*entry)->trigger();
-  } else if (auto* const button = window->findChild<QAbstractButton*>(step)) {
+  const auto* const menus = window->findChild<QMenuBar*>();
+  for (QAction* const entry : menus->findChildren<QAction*>()) {
+    if (entry->text() == step) {
+      return entry->trigger();
+    }
+  }
+  if (auto* const button = window->findChild<QAbstractButton*>(step)) {
     button->click();
   } else if (step == QLatin1String("close")) {
     window->close();

@@ -7,22 +7,14 @@
 
 namespace {
 
-/// The window over an empty home, with panels as people see them.
+/// The window in an empty home, with panels as people see them.
 class Walk : public tests::WindowTest {
  protected:
   Walk() {
     std::filesystem::permissions(fake.home.write("My Quillon.app/Contents/MacOS/My Quillon", ""),
                                  std::filesystem::perms::owner_all);
-    const platform::Host fakes = fake.host();
-    const platform::Host host{fakes.homeDirectory, fakes.configHome, fakes.dataHome,
-                              fakes.bundle,        fake.output,      panels,
-                              fake.workspace,      application,      fake.notifications};
-    controller.emplace(host);
-    controller->viewDidLoad();
-    window.emplace(*controller, host, application.edits);
+    start(panels);
     panels.setWindow(&*window, &window->memory().folder);
-    window->show();
-    activate(&*window);
   }
 
   static void expectInFront(const char* name) {

@@ -44,10 +44,15 @@ class WindowTest : public testing::Test {
   void openFirstPage(const std::string& preferences = {},
                      const desktop::FactsSource& facts = checks::gather) {
     fake.home.write(FakeHost::prefs, preferences);
+    start(fake.panels, facts);
+  }
+
+  void start(platform::Panels& panels, const desktop::FactsSource& facts = checks::gather) {
+    const platform::Host host = fake.host(application, panels);
     window.reset();
-    controller.emplace(fake.host(application));
+    controller.emplace(host);
     controller->viewDidLoad();
-    window.emplace(*controller, fake.host(application), application.edits, facts);
+    window.emplace(*controller, host, application.edits, facts);
     window->show();
     activate(&*window);
   }

@@ -124,15 +124,12 @@ TEST_F(Window, ExplainsWhatHasTheFocusOrThePointer) {
 
 TEST_F(Window, ResetsASettingFromItsMenu) {
   open("rom /x\nramsize 8388608\nnocdrom true\n");
-  struct Row {
-    const char* control;
-    const char* shownDefault;
-  };
-  for (const auto& [control, shownDefault] :
-       {Row{.control = "romFile", .shownDefault = "Put the path to your ROM file here"},
-        Row{.control = "ramSizeMB", .shownDefault = "64"},
-        Row{.control = "stateCDROM", .shownDefault = "off"},
-        Row{.control = "audioOut", .shownDefault = "empty"}}) {
+  const std::pair<const char*, const char*> defaults[] = {
+      {"romFile", "Put the path to your ROM file here"},
+      {"ramSizeMB", "64"},
+      {"stateCDROM", "off"},
+      {"audioOut", "empty"}};
+  for (const auto& [control, shownDefault] : defaults) {
     QString entryText;
     QTimer person;
     QObject::connect(&person, &QTimer::timeout, [&] {

@@ -114,14 +114,9 @@ TEST_F(Windows, ThePreferencesFollowEachChoice) {
     };
     EXPECT_EQ(color(QPalette::Base) == color(QPalette::Window), field->isReadOnly());
   };
-  struct Opened {
-    const char* location;
-    int mode;
-  };
-  for (const auto& [location, mode] :
-       {Opened{.location = "/o/Quillon.app", .mode = 7},
-        Opened{.location = "/o/Quillon.app", .mode = 1},
-        Opened{.location = "/o/Quillon.app", .mode = 2}, Opened{.location = "", .mode = 2}}) {
+  const std::pair<const char*, int> stored[] = {
+      {"/o/Quillon.app", 7}, {"/o/Quillon.app", 1}, {"/o/Quillon.app", 2}, {"", 2}};
+  for (const auto& [location, mode] : stored) {
     open();
     sharedVar::pathToQuil = location;
     sharedVar::startFlag = mode;

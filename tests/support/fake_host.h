@@ -97,15 +97,15 @@ struct FakeHost {
     Shared::startState = Shared::scsiTabState = Shared::quitGUI = false;
   }
 
-  platform::Host host() { return host(application); }
-  platform::Host host(platform::Application& running) {
+  platform::Host host() { return host(application, panels); }
+  platform::Host host(platform::Application& running, platform::Panels& shown) {
     const platform::Bundle bundle(home.path("QuillonSettings.app"));
     return {home.path(),
             home.path(".config"),
             home.path(".local/share"),
             bundle,
             output,
-            panels,
+            shown,
             workspace,
             running,
             notifications};
