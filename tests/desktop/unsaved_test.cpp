@@ -62,13 +62,15 @@ TEST_F(Unsaved, TellsWhetherQuillonWasStarted) {
 }
 
 TEST_F(Unsaved, APreviewShowsWhatASaveWouldDoAndWritesNothing) {
-  const std::string before = "# mine\nramsize 8388608\ncpu 3\n";
+  const std::string before = "# mine\n\ncpu 2\ncpu 3\nfpu false\nfpu false\nrom /old";
   open(before);
   typeInto("romFile", "/typed/<b>just now");
   menuEntry("Pre&view…")->trigger();
-  EXPECT_EQ(previewed("previewNow"), QStringList({"- # mine", "  ramsize 8388608", "  cpu 3"}));
-  EXPECT_TRUE(previewed("previewAfter").contains("+ rom /typed/<b>just now"));
-  EXPECT_TRUE(previewed("previewAfter").contains("  ramsize 8388608"));
+  EXPECT_EQ(previewed("previewNow"), QStringList({"- # mine", "  ", "  cpu 2", "- cpu 3",
+                                                  "  fpu false", "- fpu false", "* rom /old"}));
+  for (const char* const line : {"* rom /typed/<b>just now", "  cpu 2", "+ udpport 6066"}) {
+    EXPECT_TRUE(previewed("previewAfter").contains(line)) << line;
+  }
   EXPECT_EQ(file(), before);
 }
 
