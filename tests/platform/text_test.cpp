@@ -13,6 +13,11 @@ TEST(Text, DropsWholeCharacters) {
   }
 }
 
+TEST(Text, TakesOneSignBeforeANumber) {
+  EXPECT_EQ(parseInt64("+7"), 7);
+  EXPECT_FALSE(parseInt64("+-1"));
+}
+
 TEST(ByteCountFormatter, WritesCounts) {
   using Style = ByteCountFormatter::CountStyle;
   const std::map<std::string, ByteCountFormatter> formatters = {
