@@ -7,6 +7,7 @@
 #include <set>
 
 #include "desktop/setting_widgets.h"
+#include "desktop/sizes.h"
 #include "tests/desktop/window_fixture.h"
 
 namespace {
@@ -52,6 +53,13 @@ class Languages : public tests::WindowTest {
 TEST(Labels, AreSpokenOfWithoutTheirLetters) {
   EXPECT_EQ(desktop::plainText(QLatin1String("RA&M && disks (MB)(&R)")),
             QLatin1String("RAM & disks (MB)"));
+}
+
+TEST(Sizes, HaveTheDecimalPointOfThePerson) {
+  QLocale::setDefault(QLocale(QLocale::German));
+  EXPECT_EQ(desktop::translatedSize("3.1 MB"), QLatin1String("3,1 MB"));
+  QLocale::setDefault(QLocale::c());
+  EXPECT_EQ(desktop::translatedSize("3.1 MB"), QLatin1String("3.1 MB"));
 }
 
 TEST_F(Languages, HaveRoomAndALetterForEachControl) {
