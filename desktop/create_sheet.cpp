@@ -85,8 +85,8 @@ void CreateSheet::addSize(QFormLayout& form) {
   form.addRow(tr("&Size (MB):"), box);
 }
 
-// Seen once there is something to add. The panel that it leads to would go with this sheet if it
-// were opened before this sheet is gone.
+// Hidden until an image has been made. The panel opens when this sheet has been deleted: Panels
+// makes the active window its parent, and that would still be this sheet, which deletes it.
 QPushButton* CreateSheet::addButton() {
   QPushButton* const button =
       controls_.pushButton(controller_.addToList, tr("Add to the L&ist…"),
@@ -144,7 +144,7 @@ void CreateSheet::showFolder() {
                     folder.isWritable ? platform::TextColor::gray : platform::TextColor::red);
 }
 
-// The controller has buttons for the indicator, which no image needs.
+// startAnim and stopAnim move the indicator; making an image leaves it alone.
 QLayout* CreateSheet::statusRow() {
   const QString help = tr("Only moves the indicator; making an image does not.");
   auto* const row = new QHBoxLayout;

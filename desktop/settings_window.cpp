@@ -88,7 +88,8 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
 
 SettingsWindow::~SettingsWindow() {
   delete help_;  // refers to members, which end before the widgets do
-  // Without its pages it was never painted: size and tab are not what a person chose.
+  // A window that was never painted lacks pages. Its size and tab, which nobody chose, would
+  // replace those that are stored.
   if (!pagesComplete_) {
     return;
   }

@@ -34,8 +34,8 @@ class CellPainter {
     rest_ = cell.rect.adjusted(margin, 0, -margin, 0);
   }
 
-  // By itself, and not by the style: some styles paint the selection in other colours than those
-  // of the palette, and leave the text in its own.
+  // With PE_PanelItemViewItem some styles paint the selection in other colours than the palette's,
+  // on which the text, in the palette's, might not be readable.
   void paintBackground() {
     if (isSelected_) {
       painter_.fillRect(cell_.rect, background_);
@@ -47,7 +47,7 @@ class CellPainter {
   void paintIcon(const QIcon& icon, Qt::AlignmentFlag side) {
     if (!icon.isNull()) {
       const QSize size = cell_.decorationSize;
-      // Not all of what it takes: some icons fill whatever they get.
+      // In a rectangle of the icon's own size: some icon engines scale up to whatever they get.
       const QRect taken = take(size.width(), side);
       icon.paint(&painter_, QStyle::alignedRect(cell_.direction, Qt::AlignCenter, size, taken));
       take(size.width() / 2, side);

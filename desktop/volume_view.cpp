@@ -138,8 +138,9 @@ void VolumeView::selectAdded() {
   scrollTo(model_.index(last, 0));
 }
 
-// Whoever comes by the keyboard for the first time finds a row to go on from. A click selects the
-// row that it is on by itself.
+// When the focus comes by the keyboard for the first time, the first row is selected: QTableView
+// makes it the current one only, and Delete and the keys that move rows would do nothing. A click
+// selects its own row.
 void VolumeView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
   if (!wasEntered_ && event->reason() != Qt::MouseFocusReason && model_.rowCount() > 0) {
@@ -232,7 +233,8 @@ QPixmap VolumeView::dragPicture(std::size_t rows) const {
   return picture;
 }
 
-// A drag carries row numbers, which mean other rows in the table of another process.
+// What is dragged are row numbers. In the table of another process they mean other rows, which
+// acceptDrop would move.
 void VolumeView::dragEnterEvent(QDragEnterEvent* event) {
   if (event->source() == this) {
     QTableView::dragEnterEvent(event);

@@ -1,7 +1,5 @@
-#!/usr/bin/env bash
-# A virtual display. Sourced, it gives openDisplay; called, it runs a command on one:
-#
-#   display.sh COMMAND [ARGUMENT...]
+# shellcheck shell=bash disable=SC2034  # who opens the display ends it
+# A virtual display, for scripts that source this.
 
 # openDisplay FOLDER [SIZE]: opens one that keeps its files in the folder, sets DISPLAY, and sets
 # `display` to its process, which whoever calls has to end.
@@ -21,11 +19,3 @@ openDisplay() {
     return 1
   fi
 }
-
-if [ "${BASH_SOURCE[0]}" = "$0" ]; then
-  set -euo pipefail
-  folder=$(mktemp -d)
-  trap 'kill $display; rm -rf "$folder"' EXIT
-  openDisplay "$folder"
-  "$@"
-fi

@@ -17,7 +17,7 @@ using document::Key;
 
 class Editing : public tests::WindowTest {
  protected:
-  // What is deepest gets it first.
+  // Window systems send it to the innermost widget below the pointer.
   static void wheel(QWidget* widget, int turn) {
     QWidget* const inner = widget->childAt(widget->rect().center());
     QWidget* const target = inner != nullptr ? inner : widget;

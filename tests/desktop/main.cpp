@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTimer>
@@ -31,21 +30,6 @@ void perform(QWidget* window, const QString& step) {
   }
 }
 
-// Half typed fields, open lists and menus: what there may be when the program is ended.
-void interrupt(QWidget* window) {
-  for (QLineEdit* const field : window->findChildren<QLineEdit*>()) {
-    if (field->isEnabled() && !field->isReadOnly()) {
-      field->setText(QLatin1String("300"));
-    }
-  }
-  for (QComboBox* const box : window->findChildren<QComboBox*>()) {
-    box->showPopup();
-  }
-  for (QMenu* const menu : window->findChildren<QMenu*>()) {
-    menu->popup(window->pos());
-  }
-}
-
 // Runs the program in a home and a bundle, edits something and performs the steps one by one.
 int runProgram(int argc, char** argv) {
   platform::DescriptorOutput output(1);
@@ -57,11 +41,7 @@ int runProgram(int argc, char** argv) {
       auto* const field = window->findChild<QLineEdit*>(QLatin1String("romFile"));
       if (field != nullptr && next < argc) {
         field->setText(QLatin1String("/never/saved/unless/asked"));
-        const QString step = QString::fromUtf8(argv[next++]);
-        if (step == QLatin1String("close") || step.toInt() != 0) {
-          interrupt(window);
-        }
-        return perform(window, step);
+        return perform(window, QString::fromUtf8(argv[next++]));
       }
     }
   };
