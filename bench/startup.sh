@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Times the start of the program from exec to its first painted window, alternately with a bare Qt
-# window of the same kind, on a virtual display.
+# Times the start of the program from exec to its first painted window, and to the moment from which
+# on it has nothing more to do, alternately with a bare Qt window of the same kind, on a virtual
+# display.
 #
 #   startup.sh [ROUNDS]    (15)
 #
@@ -32,15 +33,18 @@ done
 
 ratioTo() { # NAME BASE COLUMN
   paste "$folder/$1.runs" "$folder/$2.runs" |
-    awk -v c="$3" '{ split($0, n, /[ \t]+/); print n[c] / n[c + 3] }' | median
+    awk -v c="$3" '{ split($0, n, /[ \t]+/); print n[c] / n[c + NF / 2] }' | median
 }
 column() { awk -v c="$2" '{ print $c }' "$folder/$1.runs" | median; }
 
-echo "name       paint ms  ratio   CPU ms  ratio   peak KiB  ratio"
+echo "name       paint ms  ratio   CPU ms  ratio   peak KiB  ratio   idle ms  ratio   CPU ms  ratio"
 for name in "${names[@]}"; do
-  printf '%-10s %-9.1f %-7.2f %-7.1f %-7.2f %-9.0f %.2f\n' "$name" \
-    "$(column "$name" 1)" "$(ratioTo "$name" floor 1)" "$(column "$name" 2)" \
-    "$(ratioTo "$name" floor 2)" "$(column "$name" 3)" "$(ratioTo "$name" floor 3)"
+  printf '%-10s %-9.1f %-7.3f %-7.1f %-7.3f %-9.0f %-7.3f %-8.1f %-7.3f %-7.1f %.3f\n' "$name" \
+    "$(column "$name" 1)" "$(ratioTo "$name" floor 1)" \
+    "$(column "$name" 2)" "$(ratioTo "$name" floor 2)" \
+    "$(column "$name" 3)" "$(ratioTo "$name" floor 3)" \
+    "$(column "$name" 4)" "$(ratioTo "$name" floor 4)" \
+    "$(column "$name" 5)" "$(ratioTo "$name" floor 5)"
 done
-printf '1,000 disk lines to one: paint %.2f, CPU %.2f\n' "$(ratioTo disks1000 disks1 1)" \
+printf '1,000 disk lines to one: paint %.3f, CPU %.3f\n' "$(ratioTo disks1000 disks1 1)" \
   "$(ratioTo disks1000 disks1 2)"

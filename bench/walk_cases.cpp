@@ -1,37 +1,16 @@
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "app/shared_var.h"
 #include "bench/host.h"
 #include "bench/sample.h"
+#include "bench/sample_home.h"
 #include "editor/view_controller.h"
 
 namespace {
 
-class SampleHome {
- public:
-  explicit SampleHome(const std::string& preferences) {
-    if (::mkdtemp(path_.data()) == nullptr) {
-      std::abort();
-    }
-    std::ofstream(path_ + "/.quillon_prefs", std::ios::binary) << preferences;
-  }
-  SampleHome(const SampleHome&) = delete;
-  SampleHome& operator=(const SampleHome&) = delete;
-  ~SampleHome() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  [[nodiscard]] const std::string& path() const { return path_; }
-
- private:
-  std::string path_ = std::filesystem::canonical("/tmp").string() + "/quillon-bench-XXXXXX";
-};
+using bench::SampleHome;
 
 // Everything that happens before the window is built: the file is read, all settings and the
 // volumes are filled in, the diagnostics are written.
