@@ -276,7 +276,8 @@ bool isSeamed(const std::string& file, std::string fresh, const std::string& old
   constexpr std::size_t pageSize = 4096;
   fresh.resize(file.size(), '\n');
   const auto [other, ignored] = std::mismatch(file.begin(), file.end(), fresh.begin());
-  const std::size_t seam = (other - file.begin()) / pageSize * pageSize;
+  const auto same = static_cast<std::size_t>(other - file.begin());
+  const std::size_t seam = same / pageSize * pageSize;
   return file.substr(seam) == old.substr(std::min(seam, old.size()));
 }
 
@@ -289,8 +290,9 @@ TEST(Kill, InTheMiddleOfASaveLeavesOldAndNewLinesInWholePages) {
     for (std::size_t round = 0; round < 1000; ++round) {
       const std::string path = folder.write(prefs, texts[round % 2]);
       const pid_t child = ::fork();
-      for (std::size_t turn = round + 1; child == 0; ++turn) {
-        (void)platform::writeFile(path, texts[turn % 2]);
+      std::size_t turn = round;
+      while (child == 0) {
+        (void)platform::writeFile(path, texts[++turn % 2]);
       }
       ::usleep(std::uniform_int_distribution<useconds_t>(100, 4000)(random));
       ::kill(child, SIGKILL);
