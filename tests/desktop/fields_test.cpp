@@ -45,6 +45,8 @@ TEST_F(Fields, AnArrowLeadsIntoTheRangeFirst) {
     SCOPED_TRACE(each.inFile);
     open(std::string("udpport ") + each.inFile + "\n");
     enter("portUDP");
+    type("7");
+    EXPECT_EQ(text("portUDP"), each.inFile) << "it is not for typing";
     press(each.arrow);
     EXPECT_EQ(value(Key::udpport), each.first);
     press(each.arrow);
