@@ -20,17 +20,18 @@ folder=$(mktemp -d "${TMPDIR:-/tmp}/counts-XXXXXX")
 trap 'rm -rf "$folder"' EXIT
 export HOME=$folder/home LANG=C.UTF-8 XDG_RUNTIME_DIR=$folder QT_QPA_PLATFORM=offscreen
 
-# Ends a program once it has taken no CPU time for two seconds; one that ends by itself is waited
-# for. Windows never do.
+# Ends a program once it has taken no CPU time for two seconds: windows never end by themselves. In a
+# session of its own, since strace passes no signal on to what it runs.
 untilIdle() {
-  local process before='' now
-  "$@" >/dev/null 2>&1 &
-  process=$!
-  while sleep 2 && now=$(cut -d' ' -f14-17 "/proc/$process/stat" 2>/dev/null); do
-    [ "$now" != "$before" ] || kill "$process"
+  local session processes before='' now
+  setsid timeout -k 10 300 "$@" >/dev/null 2>&1 &
+  session=$!
+  while sleep 2 && processes=$(pgrep -s "$session"); do
+    now=$(for process in $processes; do cut -d' ' -f14,15 "/proc/$process/stat" || true; done 2>&1)
+    [ "$now" != "$before" ] || pkill -s "$session" || true
     before=$now
   done
-  wait "$process" || true
+  wait "$session" || true
 }
 
 # counts COMMAND...: the three figures.
@@ -41,9 +42,9 @@ counts() {
     --callgrind-out-file=/dev/null "$@" &
   untilIdle valgrind --leak-check=no --undef-value-errors=no --log-file="$name.allocations" "$@" &
   wait
-  untilIdle strace -f -qq -o "$name.calls" "$@"
+  untilIdle strace -f -qq -e '!futex' -o "$name.calls" "$@"  # those go by who comes first
   echo "$(awk '/Collected/ { print $NF }' "$name.instructions")" \
-    "$(grep -c . "$name.calls")" \
+    "$(grep -vc resumed "$name.calls")" \
     "$(sed -n 's/.*total heap usage: \([0-9,]*\) allocs.*/\1/p' "$name.allocations" | tr -d ,)"
 }
 
