@@ -1,5 +1,8 @@
-# shellcheck shell=bash disable=SC2034  # who opens the display ends it
-# A virtual display, for scripts that source this.
+#!/usr/bin/env bash
+# A virtual display. Sourced, it gives openDisplay; called, it runs a command on one, with a home
+# that is gone at the end:
+#
+#   display.sh COMMAND [ARGUMENT...]
 
 # openDisplay FOLDER [SIZE]: opens one that keeps its files in the folder, sets DISPLAY, and sets
 # `display` to its process, which whoever calls has to end.
@@ -19,3 +22,12 @@ openDisplay() {
     return 1
   fi
 }
+
+if [ "${BASH_SOURCE[0]}" = "$0" ]; then
+  set -euo pipefail
+  folder=$(mktemp -d)
+  trap 'kill $display; rm -rf "$folder"' EXIT
+  openDisplay "$folder"
+  export HOME=$folder XDG_RUNTIME_DIR=$folder
+  "$@"
+fi
