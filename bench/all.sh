@@ -11,7 +11,7 @@ trap 'rm -rf "$folder"' EXIT
 # row WHAT GOAL FIGURE
 row() {
   awk -v what="$1" -v goal="$2" -v figure="$3" 'BEGIN {
-    printf "%-52s %8s %10.3f  %s\n", what, goal, figure, figure <= goal ? "pass" : "short" }'
+    printf "%-60s %6s %8.3f  %s\n", what, goal, figure, figure <= goal ? "pass" : "short" }'
 }
 
 # startup NAME COLUMN: the median of the runs of bench/startup.sh.
@@ -37,7 +37,7 @@ QT_QPA_PLATFORM=offscreen "$binaries/window" >"$folder/offscreen" 2>/dev/null
 "$bench/many-lines.sh" >"$folder/lines"
 "$bench/blank-image.sh" 1024 9 >"$folder/image"
 
-printf '%-52s %8s %10s\n' what goal figure
+printf '%-60s %6s %8s\n' what goal figure
 row "first paint, to the bare window" 1.05 "$(startup lines40 3)"
 row "CPU time until then, to the bare window" 1.05 "$(startup lines40 5)"
 row "peak memory until then, to the bare window" 1.10 "$(startup lines40 7)"
