@@ -80,7 +80,8 @@ void FindField::focusInEvent(QFocusEvent* event) {
     setClearButtonEnabled(true);
   }
   QLineEdit::focusInEvent(event);
-  // A list that closes gives the focus back: what comes next goes on with the word.
+  // When the list closes, the focus comes back in the middle of a word: selecting it then would
+  // have the next letter replace it.
   if (event->reason() != Qt::PopupFocusReason) {
     index_.reset();
     selectAll();
@@ -117,7 +118,8 @@ void FindField::keyPressEvent(QKeyEvent* event) {
 void FindField::buildList() {
   hits_ = new SearchHits(this);
   auto* const list = new HitCompleter(hits_, this);
-  // What is in the list matches already: QCompleter is given no way to leave any of it out.
+  // SearchHits holds hits only. QCompleter filters them once more, so all of them answer this role
+  // with the text that was searched for.
   list->setCompletionRole(SearchHits::searchedRole);
   list->setFilterMode(Qt::MatchContains);
   list->setMaxVisibleItems(12);

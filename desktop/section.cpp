@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-// To Qt a plain widget is nothing in particular.
+// QAccessibleWidget gives a plain QWidget the role Client, which screen readers do not tell.
 QAccessibleInterface* makeGroup(const QString& /*className*/, QObject* object) {
   auto* const section = qobject_cast<Section*>(object);
   return section == nullptr || section->accessibleName().isEmpty()
