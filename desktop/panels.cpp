@@ -91,6 +91,8 @@ template <typename Dialog = QFileDialog>
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
   auto dialog =
       std::make_unique<Dialog>(window, QCoreApplication::translate("Panels", title.c_str()));
+  // Without it the dialog of KDE also takes files of servers, whose paths Quillon cannot open.
+  dialog->setSupportedSchemes({QLatin1String("file")});
   keepMessagesPlain(dialog.get());
   return dialog;
 }
@@ -165,8 +167,10 @@ std::unique_ptr<QFileDialog> Panels::prepare(const platform::OpenPanel& panel) {
   if (!panel.chosenFile.empty()) {  // in a folder of its own
     dialog->selectFile(QFile::decodeName(QByteArray::fromStdString(panel.chosenFile)));
   }
-  QObject::connect(dialog.get(), &QFileDialog::fileSelected,
-                   [folder = folder_](const QString& file) { *folder = QFileInfo(file).path(); });
+  // fileSelected() would tell of one file only, and not of what AnyDialog takes.
+  QObject::connect(dialog.get(), &QDialog::accepted, [folder = folder_, dialog = dialog.get()] {
+    *folder = QFileInfo(dialog->selectedFiles().value(0)).path();
+  });
   return dialog;
 }
 

@@ -71,6 +71,8 @@ TEST_F(Sheets, PanelsOfferWhatIsAskedForAndSpeakPlainly) {
 
 TEST_F(Sheets, PanelsOpenWhereSomethingIsSetOrWasChosenLast) {
   const std::string image = fake.home.write("set/a.dsk", "");
+  fake.home.write("several/b.dsk", "");
+  fake.home.write("several/c.dsk", "");
   std::filesystem::create_directory(fake.home.path("last"));
   folder = QString::fromStdString(fake.home.path("last"));
   platform::OpenPanel panel;
@@ -85,6 +87,15 @@ TEST_F(Sheets, PanelsOpenWhereSomethingIsSetOrWasChosenLast) {
   ASSERT_EQ(chosen.size(), 1);
   EXPECT_EQ(chosen.front().path(), image);
   EXPECT_EQ(folder.toStdString(), fake.home.path("set"));
+  platform::OpenPanel several;
+  several.allowsMultipleSelection = true;
+  several.directory = fake.home.path("several");
+  show(several);
+  QTest::qWait(50);
+  type(R"("b.dsk" "c.dsk")");
+  press("Return");
+  EXPECT_EQ(chosen.size(), 2);
+  EXPECT_EQ(folder.toStdString(), several.directory);
 }
 
 TEST_F(Sheets, PressingBrowseAgainRaisesTheSameChooser) {
