@@ -44,13 +44,12 @@ void SettingsStore::load() {
   const std::string& source = platform::isMissing(file_) ? shipped_ : file_;
   auto list = platform::PropertyList::read(source, error);
   dict_ = list ? *std::move(list) : platform::PropertyList();
+  const std::string reason = error ? " (" + error.message() + ")" : std::string();
   eachSetting([&](const char* key, auto& field, auto read, const auto& shippedValue) {
     const auto value = (dict_.*read)(key);
     field = value.value_or(shippedValue);
     if (!value) {
-      output_.print("Prefs.plist: no usable \"", key, "\"",
-                    error ? " (" + error.message() + ")" : std::string(), ", taking ",
-                    shown(field));
+      output_.print("Prefs.plist: no usable \"", key, "\"", reason, ", taking ", shown(field));
     }
   });
 }

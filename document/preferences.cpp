@@ -31,7 +31,11 @@ Preferences::Preferences(std::string homeDirectory, platform::Output& output)
     : dir(std::move(homeDirectory)), output_(output) {}
 
 std::string Preferences::line(Key key, std::string_view value) {
-  return std::string(prefs[indexOf(key)]).append(value);
+  const std::string_view text = prefs[indexOf(key)];
+  std::string line;
+  line.reserve(text.size() + value.size());
+  line.append(text).append(value);
+  return line;
 }
 
 void Preferences::load(IfMissing ifMissing) {

@@ -120,29 +120,39 @@ Location Location::folder() const {
   return Location(std::string(folder.substr(0, folder.rfind('/') + 1)));
 }
 
+// Both copy what stands between two characters of interest in one go: at start-up they see each
+// path of the file, and few of these have any.
 std::string percentEncoded(std::string_view path) {
   constexpr std::string_view digits = "0123456789ABCDEF";
   std::string encoded;
   encoded.reserve(path.size());
-  for (const char c : path) {
-    if (isPathCharacter(c)) {
-      encoded += c;
-    } else {
-      const auto byte = static_cast<unsigned char>(c);
+  std::size_t copied = 0;
+  for (std::size_t at = 0; at < path.size(); ++at) {
+    if (!isPathCharacter(path[at])) {
+      const auto byte = static_cast<unsigned char>(path[at]);
+      encoded += path.substr(copied, at - copied);
       encoded += {'%', digits[byte >> 4U], digits[byte & 15U]};
+      copied = at + 1;
     }
   }
+  encoded += path.substr(copied);
   return encoded;
 }
 
 std::string percentDecoded(std::string_view text) {
   std::string decoded;
   decoded.reserve(text.size());
-  for (std::size_t at = 0; at < text.size(); ++at) {
+  std::size_t copied = 0;
+  for (auto at = text.find('%'); at != text.npos; at = text.find('%', at + 1)) {
     const int byte = escapeAt(text, at);
-    decoded += byte < 0 ? text[at] : static_cast<char>(byte);
-    at += byte < 0 ? 0 : 2;
+    if (byte >= 0) {
+      decoded += text.substr(copied, at - copied);
+      decoded += static_cast<char>(byte);
+      copied = at + 3;
+      at += 2;
+    }
   }
+  decoded += text.substr(copied);
   return decoded;
 }
 
