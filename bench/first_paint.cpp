@@ -7,7 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
+#include <ctime>
 #include <fstream>
 #include <string>
 #include <thread>
@@ -57,19 +57,18 @@ bool showsPaintedWindow(Display* display) {
   return painted;
 }
 
-// Of all threads.
-double cpuMilliseconds(const std::string& process) {
-  double nanoseconds = 0;
-  for (const auto& task : std::filesystem::directory_iterator(process + "/task")) {
-    double own = 0;
-    std::ifstream(task.path() / "schedstat") >> own;
-    nanoseconds += own;
+// Of all threads, also of those that have ended.
+double cpuMilliseconds(pid_t process) {
+  clockid_t clock{};
+  timespec used{};
+  if (::clock_getcpuclockid(process, &clock) != 0 || ::clock_gettime(clock, &used) != 0) {
+    return 0;
   }
-  return nanoseconds / 1e6;
+  return static_cast<double>(used.tv_sec) * 1e3 + static_cast<double>(used.tv_nsec) / 1e6;
 }
 
-long peakKib(const std::string& process) {
-  std::ifstream status(process + "/status");
+long peakKib(pid_t process) {
+  std::ifstream status("/proc/" + std::to_string(process) + "/status");
   for (std::string word; status >> word;) {
     if (word == "VmHWM:") {
       status >> word;
@@ -102,7 +101,6 @@ int main(int argc, char** argv) {
     ::execvp(argv[1], argv + 1);
     ::_exit(127);
   }
-  const std::string process = "/proc/" + std::to_string(child);
   bool painted = false;
   while (!painted && Clock::now() - start < patience) {
     std::this_thread::sleep_for(lookAgain);
@@ -110,13 +108,13 @@ int main(int argc, char** argv) {
   }
   if (painted) {
     const double taken = sinceStart();
-    double cpu = cpuMilliseconds(process);
-    std::printf("%.2f %.2f %ld ", taken, cpu, peakKib(process));
+    double cpu = cpuMilliseconds(child);
+    std::printf("%.2f %.2f %ld ", taken, cpu, peakKib(child));
     double done = taken;
     auto last = Clock::now();
     while (Clock::now() - last < idle && Clock::now() - start < patience) {
       std::this_thread::sleep_for(lookAgain);
-      if (const double now = cpuMilliseconds(process); now != cpu) {
+      if (const double now = cpuMilliseconds(child); now != cpu) {
         cpu = now;
         done = sinceStart();
         last = Clock::now();

@@ -36,7 +36,6 @@ class ChecksView : public QObject {
 
   /// Begins to check; called when the window has been painted and has all its pages.
   void start() { runner_.gather(); }
-  [[nodiscard]] bool isStarted() const { return runner_.isStarted(); }
 
   /// Checks a state that has changed.
   void refresh();

@@ -31,7 +31,7 @@ int tabOf(const QTabWidget& tabs, const QWidget* widget) {
 void leadTo(QTabWidget& tabs, QWidget* widget) {
   if (const int tab = tabOf(tabs, widget); tab >= 0) {
     tabs.setCurrentIndex(tab);
-    qobject_cast<QScrollArea*>(tabs.widget(tab))->ensureWidgetVisible(widget);
+    tabs.widget(tab)->findChild<QScrollArea*>()->ensureWidgetVisible(widget);
   }
   widget->window()->activateWindow();
   widget->setFocus(Qt::ShortcutFocusReason);

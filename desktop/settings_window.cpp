@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "desktop/agreement_sheet.h"
@@ -62,7 +63,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   layout->setMenuBar(topRow());  // made first: the Tab key goes through widgets as they were made
   layout->addWidget(tabs_, 1);
   layout->addWidget(help_);
-  addPages();
+  makePages();
   buildShortcuts();
   layout->addLayout(fileRow());
   auto* const checksLine = new ChecksLine;
@@ -136,22 +137,26 @@ void SettingsWindow::followState() {
   connect(&*checks_, &ChecksView::changed, this, [this] { changeMarks_->update(); });
 }
 
-// Every area is added here once, so that it is a child of the window even when its tab is not
-// shown.
-void SettingsWindow::addPages() {
-  for (QScrollArea*& area : pages_) {
-    area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    tabs_->addTab(area, QString());
+// Empty, since only one is seen at first. Each is a child of the window from here on, even when its
+// tab is not shown.
+void SettingsWindow::makePages() {
+  for (QWidget*& page : pages_) {
+    page = new QWidget(tabs_);
+    page->hide();  // or one that is no tab would be shown over the others
   }
 }
 
 void SettingsWindow::fillPage(editor::TabId id) {
   QWidget* const page =
       makePage(id, {controls_, settingWidgets_, volumesLabel_, controller_, host_.bundle});
-  pages_[indexOf(id)]->setWidget(page);
+  auto* const area = new QScrollArea;
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(page);
+  auto* const layout = new QVBoxLayout(pages_[indexOf(id)]);
+  layout->setContentsMargins(QMargins());
+  layout->addWidget(area);
   // Qt puts a widget that is made later behind all others in the order of the Tab key. Only one
   // page is shown at a time, so that each can begin right behind the tab bar.
   QWidget* before = tabs_->tabBar();
@@ -182,7 +187,7 @@ void SettingsWindow::completePages() {
     return;
   }
   for (std::size_t index = 0; index < pages_.size(); ++index) {
-    if (pages_[index]->widget() == nullptr) {
+    if (pages_[index]->layout() == nullptr) {
       fillPage(static_cast<editor::TabId>(index));
     }
   }
@@ -193,11 +198,12 @@ void SettingsWindow::completePages() {
 }
 
 // A person sees one page first. The others are made, and files are looked at, once it is on the
-// screen.
+// screen: the X server and the compositor need the processor for that, after this has returned.
 void SettingsWindow::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
-  if (!pagesComplete_ || !checks_->isStarted()) {
-    QTimer::singleShot(0, this, [this] {
+  constexpr std::chrono::milliseconds untilShown(5);
+  if (!std::exchange(painted_, true)) {
+    QTimer::singleShot(untilShown, this, [this] {
       completePages();
       showIcon();
       checks_->start();

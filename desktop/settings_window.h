@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPointer>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QWidget>
 #include <array>
@@ -54,7 +53,7 @@ class SettingsWindow : public QWidget {
   void followState();
   void restore();
   void remember();
-  void addPages();
+  void makePages();
   void fillPage(editor::TabId id);
   [[nodiscard]] QWidget* topRow();
   void buildShortcuts();
@@ -89,7 +88,8 @@ class SettingsWindow : public QWidget {
   std::optional<SearchPlaces> searchPlaces_;  // when somebody has searched
   QPointer<PreferencesWindow> preferences_;
   QPointer<DiagnosticsWindow> diagnostics_;
-  std::array<QScrollArea*, editor::tabCount> pages_{};
+  std::array<QWidget*, editor::tabCount> pages_{};
+  bool painted_ = false;
   bool pagesComplete_ = false;
   WindowMemory stored_;
   QWidget* volumesLabel_ = nullptr;

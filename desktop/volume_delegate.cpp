@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
+#include <QTextLayout>
+#include <QtMath>
 #include <utility>
 
 #include "desktop/appearance.h"
@@ -91,25 +93,35 @@ class CellPainter {
     return taken;
   }
 
-  /// Returns the width of what is drawn.
+  /// Returns the width of what is drawn. A layout is measured and drawn in one go, where
+  /// QPainter::drawText() would lay out the text again.
   int draw(const QString& text, const QFont& font, const QColor& color, Qt::Alignment alignment,
            Qt::TextElideMode elide) {
     if (rest_.width() <= 0) {
       return 0;
     }
-    const QFontMetrics metrics(font);
-    QString shown = text;
-    int width = metrics.horizontalAdvance(text);
-    if (width > rest_.width()) {
-      shown = metrics.elidedText(text, elide, rest_.width());
-      width = rest_.width();
+    QTextLayout layout(text, font);
+    QRectF lines = laidOut(layout);
+    if (lines.width() > rest_.width()) {
+      layout.setText(QFontMetrics(font).elidedText(text, elide, rest_.width()));
+      lines = laidOut(layout);
     }
-    painter_.setFont(font);
+    const QSize size(qCeil(lines.width()), qCeil(lines.height()));
     painter_.setPen(color);
-    painter_.drawText(rest_,
-                      int(QStyle::visualAlignment(cell_.direction, alignment)) | Qt::TextSingleLine,
-                      shown);
-    return width;
+    layout.draw(&painter_, QStyle::alignedRect(cell_.direction, alignment, size, rest_).topLeft());
+    return size.width();
+  }
+
+  /// Lays out one line and returns its rectangle, whose left side is at 0.
+  QRectF laidOut(QTextLayout& layout) const {
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(cell_.direction);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(QWIDGETSIZE_MAX);
+    layout.endLayout();
+    return line.naturalTextRect();
   }
 
   QPainter& painter_;

@@ -53,6 +53,10 @@ class TableHeader : public QHeaderView {
 VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images)
     : volumes_(volumes), model_(volumes, images, this) {
   setObjectName(toQString(volumes.tableView.name()));
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  auto* const header = new TableHeader(this);
+  setHorizontalHeader(header);  // before setModel(), or two headers measure their sections
   setModel(&model_);
   setItemDelegate(new VolumeDelegate(this));
   setSelectionBehavior(SelectRows);
@@ -65,10 +69,6 @@ VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& im
   setWordWrap(false);
   setTabKeyNavigation(false);
   setAlternatingRowColors(true);
-  verticalHeader()->hide();
-  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  auto* const header = new TableHeader(this);
-  setHorizontalHeader(header);
   header->setHighlightSections(false);
   header->setResizeContentsPrecision(0);  // the visible rows only
   header->setSectionResizeMode(QHeaderView::ResizeToContents);

@@ -98,7 +98,7 @@ TEST_F(Editing, NothingChangesOnTheWayPast) {
     tabs()->setCurrentIndex(tab);
     QTest::qWait(0);
     QWidget* const page = tabs()->currentWidget();
-    const QScrollBar* const bar = qobject_cast<QScrollArea*>(page)->verticalScrollBar();
+    const QScrollBar* const bar = page->findChild<QScrollArea*>()->verticalScrollBar();
     for (QWidget* const widget : page->findChildren<QWidget*>()) {
       if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {
         widget->setFocus();
