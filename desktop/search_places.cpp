@@ -99,8 +99,8 @@ void SearchPlaces::addPreferences(SearchIndex& index) const {
        {Place{tr("Where Quillon is"), tr("location, path, emulator, Quillon.app"), "Quillon"},
         Place{tr("Quit after Start"), tr("exit, close, end"), "quitOnStart"},
         Place{tr("Show the SCSI tab"), tr("bus, devices"), "SCSItab"}}) {
-    index.add({title, tr("Preferences window"), {words}, {}, [this, name = QLatin1String(name)] {
-                 leadTo(window_.tabs, window_.openPreferences()->findChild<QWidget*>(name));
+    index.add({title, tr("Preferences window"), {words}, {}, [this, control = QLatin1String(name)] {
+                 leadTo(window_.tabs, window_.openPreferences()->findChild<QWidget*>(control));
                }});
   }
 }
