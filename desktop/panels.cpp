@@ -91,8 +91,10 @@ template <typename Dialog = QFileDialog>
 std::unique_ptr<QFileDialog> makeDialog(QWidget* window, const std::string& title) {
   auto dialog =
       std::make_unique<Dialog>(window, QCoreApplication::translate("Panels", title.c_str()));
-  // Without it the dialog of KDE also takes files of servers, whose paths Quillon cannot open.
-  dialog->setSupportedSchemes({QLatin1String("file")});
+  // The dialog of KDE would also take what is on servers or in the trash, and give an address in
+  // place of a path. The last two are its recent files, which it gives as paths.
+  dialog->setSupportedSchemes(
+      {QLatin1String("file"), QLatin1String("timeline"), QLatin1String("recentlyused")});
   keepMessagesPlain(dialog.get());
   return dialog;
 }
