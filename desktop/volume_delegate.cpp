@@ -5,6 +5,7 @@
 #include <QStyle>
 #include <QTextLayout>
 #include <QtMath>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/appearance.h"
@@ -134,16 +135,37 @@ class CellPainter {
   QRect rest_;
 };
 
+QString shownSize(const QString& size) { return translatedSize(fromQString(size)) + columnGap; }
+
+QString shownKind(const QString& kind) {
+  const QString shown = QCoreApplication::translate("Kinds", kind.toUtf8().constData());
+  return shown.isRightToLeft() ? shown : leftToRight(shown);
+}
+
 }  // namespace
 
 void VolumeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   if (option->displayAlignment.testFlag(Qt::AlignRight)) {
-    option->text = translatedSize(fromQString(option->text)) + columnGap;
+    option->text = shownSize(option->text);
   } else if (index.column() > 0) {
-    const QString kind = QCoreApplication::translate("Kinds", option->text.toUtf8().constData());
-    option->text = kind.isRightToLeft() ? kind : leftToRight(kind);
+    option->text = shownKind(option->text);
   }
+}
+
+int VolumeDelegate::usualWidth(const platform::TableColumn& column, QStyleOptionViewItem option) {
+  int width = 0;
+  option.features |= QStyleOptionViewItem::HasDisplay;
+  for (const std::string_view text : column.usual) {
+    if (!text.empty()) {
+      const QString known = toQString(std::string(text));
+      option.text = column.endsAtRight ? shownSize(known) : shownKind(known);
+      const QSize size = option.widget->style()->sizeFromContents(QStyle::CT_ItemViewItem, &option,
+                                                                  QSize(), option.widget);
+      width = std::max(width, size.width());
+    }
+  }
+  return width;
 }
 
 // The table asks for the same few kinds and sizes of images whenever a row or its own width

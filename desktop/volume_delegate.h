@@ -4,6 +4,8 @@
 #include <QHash>
 #include <QStyledItemDelegate>
 
+#include "platform/table_view.h"
+
 namespace desktop {
 
 /// Is painted behind texts that end at the right, which would otherwise touch those of the next
@@ -22,6 +24,10 @@ class VolumeDelegate : public QStyledItemDelegate {
              const QModelIndex& index) const override;
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                const QModelIndex& index) const override;
+
+  /// How wide a cell with one of the usual texts of its column is at most.
+  [[nodiscard]] static int usualWidth(const platform::TableColumn& column,
+                                      QStyleOptionViewItem option);
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

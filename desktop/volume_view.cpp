@@ -256,8 +256,18 @@ void VolumeView::dropEvent(QDropEvent* event) {
 // Of a table that is not seen Qt measures all rows, and Qt 6.8 does so whenever the page of the
 // table is taken out of the tabs for a while: its header is told that it is hidden, and the table
 // then asks it for its length. A table that is shown again is measured again.
+//
+// Of a table that is seen Qt measures the rows in sight, and not again when others come into sight
+// by scrolling. The usual texts always have room.
 int VolumeView::sizeHintForColumn(int column) const {
-  return isVisible() ? QTableView::sizeHintForColumn(column) : -1;
+  if (!isVisible()) {
+    return -1;
+  }
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  const platform::TableColumn& shown =
+      volumes_.tableView.tableColumns()[static_cast<std::size_t>(column)];
+  return std::max(QTableView::sizeHintForColumn(column), VolumeDelegate::usualWidth(shown, option));
 }
 
 void VolumeView::paintEvent(QPaintEvent* event) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/control.h"
@@ -19,6 +21,7 @@ struct TableColumn {
   const char* identifier;  // of its cells
   const char* title;       // for a person, marked with `translatable` under "Columns"
   bool endsAtRight = false;
+  std::array<std::string_view, 2> usual{};  // texts of its cells that it has room for at any time
 };
 
 /// What one cell shows.

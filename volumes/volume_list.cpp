@@ -5,14 +5,11 @@
 #include <utility>
 
 #include "platform/files.h"
-#include "platform/translatable.h"
 
 namespace volumes {
 namespace {
 
 constexpr std::string_view diskPrefix = "disk ";
-constexpr std::string_view imageKind = platform::translatable("Kinds", "Disk Image");
-constexpr std::string_view missingKind = platform::translatable("Kinds", "Not Found!");
 
 // A list as it is printed. Loading prints all lists after each entry: composing the texts anew each
 // time would take longer than writing them.

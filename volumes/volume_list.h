@@ -7,8 +7,13 @@
 
 #include "platform/location.h"
 #include "platform/output.h"
+#include "platform/translatable.h"
 
 namespace volumes {
+
+/// The kinds of entries.
+inline constexpr std::string_view imageKind = platform::translatable("Kinds", "Disk Image");
+inline constexpr std::string_view missingKind = platform::translatable("Kinds", "Not Found!");
 
 /// The disk images in their order. Position i of each list belongs to entry i; the lists always
 /// have the same length.

@@ -27,8 +27,9 @@ std::span<const VolumeTable::Column> VolumeTable::columns() {
   using platform::translatable;
   static constexpr auto table = std::to_array<Column>(
       {{{"NameCell", translatable("Columns", "Disk image")}, &VolumeTable::nameCell},
-       {{"SizeCell", translatable("Columns", "Size"), true}, &VolumeTable::sizeCell},
-       {{"KindCell", translatable("Columns", "Kind")}, &VolumeTable::kindCell}});
+       {{"SizeCell", translatable("Columns", "Size"), true, {"999.9 MB"}}, &VolumeTable::sizeCell},
+       {{"KindCell", translatable("Columns", "Kind"), false, {imageKind, missingKind}},
+        &VolumeTable::kindCell}});
   return table;
 }
 

@@ -138,6 +138,8 @@ TEST_F(Volumes, AddedRowsAreSelectedAndSeen) {
   click("browseFile");
   EXPECT_EQ(selected(), "XY");
   EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(cell(51)).center()));
+  EXPECT_GT(table->columnWidth(1), table->fontMetrics().horizontalAdvance("999.9 MB "))
+      << "a large one has room";
 }
 
 TEST_F(Volumes, AMoveButtonIsEnabledWhileItMovesAndLeavesTheFocusToTheList) {
