@@ -15,8 +15,12 @@
 namespace desktop {
 namespace {
 
-QString valueText(const std::string& value) {
-  return value.empty() ? ChangesList::tr("(empty)") : translatedValue(value);
+QString valueText(const editor::Setting& setting, const std::string& value,
+                  const std::string& shown) {
+  if (const auto* const screen = dynamic_cast<const editor::ScreenSetting*>(&setting)) {
+    return translatedScreen(*screen, value);
+  }
+  return shown.empty() ? ChangesList::tr("(empty)") : translatedValue(shown);
 }
 
 QString volumesText(const editor::VolumeChanges& changes) {
@@ -74,8 +78,10 @@ std::vector<ChangesList::Row> ChangesList::rows() const {
   for (const editor::Change& change : controller_.saved.changes()) {
     const editor::Setting& setting =
         *controller_.settingsInKeyOrder().at(document::indexOf(change.key));
+    const std::string& saved = controller_.saved.savedValue(change.key);
     rows.push_back({plainText(translatedLabel(setting.label())),
-                    tr("%1 → %2").arg(valueText(change.was), valueText(change.is)),
+                    tr("%1 → %2").arg(valueText(setting, saved, change.was),
+                                      valueText(setting, setting.valueToSave(), change.is)),
                     [this, key = change.key] { controller_.saved.putBack(key); }});
   }
   const editor::VolumeChanges volumes = controller_.saved.volumeChanges();

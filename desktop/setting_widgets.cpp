@@ -8,7 +8,6 @@
 #include <string>
 
 #include "desktop/texts.h"
-#include "editor/display.h"
 
 namespace desktop {
 namespace {
@@ -20,10 +19,7 @@ QString keyWord(const document::KeyRow& row) { return toQString(std::string(row.
 
 QString shownDefault(const editor::Setting& setting) {
   if (const auto* const screen = dynamic_cast<const editor::ScreenSetting*>(&setting)) {
-    const auto [type, width, height] =
-        screen->shownParts(document::rowOf(screen->key()).defaultValue);
-    return tr("%1, %2 × %3")
-        .arg(translatedItem(type), translatedItem(width), translatedItem(height));
+    return translatedScreen(*screen, document::rowOf(screen->key()).defaultValue);
   }
   return translatedValue(setting.shownDefault());
 }
@@ -102,6 +98,11 @@ void offerReset(const SettingWidget& place) {
 QString translatedValue(const std::string& text) {
   const QString word = QCoreApplication::translate("Help", text.c_str());
   return word == toQString(text) ? translatedItem(text) : word;
+}
+
+QString translatedScreen(const editor::ScreenSetting& screen, std::string_view value) {
+  const auto [type, width, height] = screen.shownParts(value);
+  return tr("%1, %2 × %3").arg(translatedItem(type), translatedItem(width), translatedItem(height));
 }
 
 void showState(const SettingWidget& place, bool isChanged, bool isDefault) {

@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <vector>
 
+#include "editor/display.h"
 #include "editor/setting.h"
 
 namespace desktop {
@@ -51,6 +52,9 @@ void keepRoomForMarks(const std::vector<QLabel*>& labels);
 
 /// A value as Setting::shownText has it, in the person's language.
 QString translatedValue(const std::string& text);
+
+/// The same of the screen, whose value has three entries in it.
+QString translatedScreen(const editor::ScreenSetting& screen, std::string_view value);
 
 /// The label of a setting, or of a part of one, in the person's language.
 QString translatedLabel(const char* label);

@@ -46,6 +46,11 @@ class SavedState {
   /// The same as a person sees it: one entry where a control shows more than one setting.
   [[nodiscard]] std::vector<Change> changes() const;
 
+  /// What the line of a setting held when it was last read or saved.
+  [[nodiscard]] const std::string& savedValue(Key key) const {
+    return values_.at(document::indexOf(key));
+  }
+
   [[nodiscard]] bool volumesChanged() const;
   [[nodiscard]] VolumeChanges volumeChanges() const;
 
@@ -55,9 +60,6 @@ class SavedState {
   void putAllBack();
 
  private:
-  [[nodiscard]] const std::string& savedValue(Key key) const {
-    return values_.at(document::indexOf(key));
-  }
   [[nodiscard]] Setting& settingOf(Key key) const { return *settings_.at(document::indexOf(key)); }
 
   const Settings& settings_;

@@ -86,6 +86,14 @@ TEST_F(Languages, HaveRoomAndALetterForEachControl) {
     expectReadable(*openBy("bitCreate"));
     EXPECT_EQ(text("createImage") == "Create", isEnglish);
     leaveBy("Escape");
+    enter("screenType");
+    press("Down");
+    const QWidget* const changes = openBy("changesButton");
+    expectReadable(*changes);
+    for (const QLabel* const label : changes->findChildren<QLabel*>()) {
+      EXPECT_TRUE(isEnglish || !label->text().contains(QLatin1String("Full screen")));
+    }
+    leaveBy("Escape");
     for (const QMenu* const menu : window->findChildren<QMenu*>()) {
       expectOwnLetters(entriesOf(*menu));
     }
