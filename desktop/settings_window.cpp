@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -17,23 +18,14 @@
 #include <chrono>
 #include <utility>
 
-#include "desktop/agreement_sheet.h"
-#include "desktop/create_sheet.h"
 #include "desktop/icons.h"
 #include "desktop/lead_to.h"
 #include "desktop/pages.h"
-#include "desktop/preview_window.h"
 #include "desktop/texts.h"
 #include "desktop/volume_view.h"
 
 namespace desktop {
 namespace {
-
-void bringUp(QWidget* window) {
-  window->show();
-  window->raise();
-  window->activateWindow();
-}
 
 // To Qt only a QMainWindow is a window for screen readers.
 QAccessibleInterface* makeWindow(const QString& /*className*/, QObject* object) {
@@ -49,6 +41,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
       host_(host),
       memory_(toQString(host.configHome)),
       controls_(edits),
+      opened_(controller, host, edits, this),
       tabs_(new QTabWidget),
       help_(new HelpPane(settingWidgets_)),
       stored_(memory_) {
@@ -75,7 +68,7 @@ SettingsWindow::SettingsWindow(editor::ViewController& controller, const platfor
   // The action stays with the controller, which may outlive this window.
   controller.bitCreate.action = [window = QPointer(this)] {
     if (window) {
-      window->openCreation();
+      window->opened_.openCreation();
     }
   };
   checks_.emplace(controller, std::move(facts), checkedWindow(checksLine));
@@ -258,7 +251,7 @@ QLayout* SettingsWindow::buttonRow() {
   giveIcon(preferences, "preferences-system");
   preferences->setObjectName(QLatin1String("openPreferences"));
   preferences->setToolTip(tr("Where Quillon is, and how this program behaves."));
-  connect(preferences, &QPushButton::clicked, this, &SettingsWindow::openPreferences);
+  connect(preferences, &QPushButton::clicked, this, [this] { opened_.openPreferences(); });
   QPushButton* const start =
       controls_.pushButton(controller_.startQuil, tr("S&tart"), QString(), "media-playback-start");
   startShown_ = controller_.startQuil.attach([this, start] { showStart(start); });
@@ -274,10 +267,7 @@ QLayout* SettingsWindow::buttonRow() {
 }
 
 ChecksView::Window SettingsWindow::checkedWindow(ChecksLine* line) {
-  const auto showLocation = [this] {
-    openPreferences();
-    return preferences_->location();
-  };
+  const auto showLocation = [this] { return opened_.openPreferences()->location(); };
   return {this,
           line,
           tabs_,
@@ -318,11 +308,11 @@ QWidget* SettingsWindow::topRow() {
   auto* const layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 3, 0, 0);
   layout->setSpacing(0);
-  menus_ =
-      new Menus(controller_, controls_,
-                {[this] { openPreview(); }, [this] { openPreferences(); }, [this] { resetPage(); },
-                 [this] { openDiagnostics(); }, [this] { openAgreement(); },
-                 [this] { tellAbout(); }, [this] { startSearch(); }});
+  menus_ = new Menus(
+      controller_, controls_,
+      {[this] { opened_.openPreview(); }, [this] { opened_.openPreferences(); },
+       [this] { resetPage(); }, [this] { opened_.openDiagnostics(); },
+       [this] { opened_.openAgreement(); }, [this] { tellAbout(); }, [this] { startSearch(); }});
   layout->addWidget(menus_, 0, Qt::AlignVCenter);
   layout->addStretch();
   find_ = new FindField([this] { return searchable(); });
@@ -352,21 +342,12 @@ void SettingsWindow::startSearch() {
 SearchIndex SettingsWindow::searchable() {
   completePages();
   if (!searchPlaces_) {
-    const auto openedPreferences = [this]() -> QWidget* {
-      openPreferences();
-      return preferences_;
-    };
+    const auto openedPreferences = [this] { return opened_.openPreferences(); };
     searchPlaces_.emplace(SearchPlaces::Window{
         *tabs_, settingWidgets_, *help_, *findChild<VolumeView*>(),
         *findChild<QWidget*>(toQString(controller_.tabs.scsiID0.name())), openedPreferences});
   }
   return searchPlaces_->collect();
-}
-
-// As a save would, it takes in first what is being typed.
-void SettingsWindow::openPreview() {
-  controls_.edits().endEditing();
-  (new PreviewWindow(controller_, this))->open();
 }
 
 // One edit a setting; the screen has three places on its page.
@@ -377,29 +358,6 @@ void SettingsWindow::resetPage() {
       place.setting->reset();
     }
   }
-}
-
-void SettingsWindow::openPreferences() {
-  if (preferences_ == nullptr) {
-    preferences_ = new PreferencesWindow(host_, controls_.edits(), this);
-  }
-  bringUp(preferences_);
-}
-
-void SettingsWindow::openDiagnostics() {
-  if (diagnostics_ == nullptr) {
-    diagnostics_ = new DiagnosticsWindow(controller_.volumes, controls_.edits(), this);
-  }
-  bringUp(diagnostics_);
-}
-
-void SettingsWindow::openAgreement() {
-  (new AgreementSheet(host_, controls_.edits(), this))->open();
-}
-
-void SettingsWindow::openCreation() {
-  const auto add = [this](const std::string& path) { controller_.volumes.chooseFiles(path); };
-  (new CreateSheet(host_, imageFolder_, controls_.edits(), add, this))->open();
 }
 
 void SettingsWindow::tellAbout() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPointer>
 #include <QTabWidget>
 #include <QWidget>
 #include <array>
@@ -9,18 +8,16 @@
 #include "desktop/change_marks.h"
 #include "desktop/checks_view.h"
 #include "desktop/controls.h"
-#include "desktop/diagnostics_window.h"
 #include "desktop/find_field.h"
 #include "desktop/help_pane.h"
 #include "desktop/menus.h"
-#include "desktop/preferences_window.h"
+#include "desktop/opened_windows.h"
 #include "desktop/search_places.h"
 #include "desktop/setting_widgets.h"
 #include "desktop/state_watch.h"
 #include "desktop/window_memory.h"
 #include "editor/view_controller.h"
 #include "platform/host.h"
-#include "volumes/image_folder.h"
 
 namespace desktop {
 
@@ -65,20 +62,15 @@ class SettingsWindow : public QWidget {
   void startSearch();
   void showStart(QPushButton* button);
   void showIcon() const;
-  void openPreview();
   void resetPage();
   void guardStart();
-  void openPreferences();
-  void openDiagnostics();
-  void openAgreement();
-  void openCreation();
   void tellAbout();
 
   editor::ViewController& controller_;
   platform::Host host_;
-  volumes::ImageFolder imageFolder_{host_.dataHome};
   WindowMemory memory_;
   Controls controls_;
+  OpenedWindows opened_;
   platform::Window delegate_;
   QTabWidget* tabs_;
   SettingWidgets settingWidgets_;
@@ -86,8 +78,6 @@ class SettingsWindow : public QWidget {
   Menus* menus_ = nullptr;
   FindField* find_ = nullptr;
   std::optional<SearchPlaces> searchPlaces_;  // when somebody has searched
-  QPointer<PreferencesWindow> preferences_;
-  QPointer<DiagnosticsWindow> diagnostics_;
   std::array<QWidget*, editor::tabCount> pages_{};
   bool painted_ = false;
   bool pagesComplete_ = false;
