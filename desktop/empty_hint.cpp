@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/appearance.h"
+#include "desktop/status_line.h"
 
 namespace desktop {
 namespace {
@@ -35,7 +36,11 @@ class LinkButton : public QPushButton {
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     const QColor background = palette().color(QPalette::Base);
-    painter.setPen(readableOn(background, palette().color(QPalette::Link)));
+    // Breeze's own colour is too faint, and in black it would not look like a link.
+    const QColor link = palette().color(QPalette::Link);
+    painter.setPen(readableOn(background, link) == link
+                       ? link
+                       : readableColor(platform::TextColor::blue, background, link));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
     if (hasFocus()) {
       QStyleOptionFocusRect focus;

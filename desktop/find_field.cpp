@@ -22,8 +22,11 @@ class HitCompleter : public QCompleter {
   }
 };
 
+constexpr int hitsInSight = 12;
+
 // Ends where the field does. QCompleter lets a list begin where its field does; one that is wider
-// would reach beyond the window.
+// would reach beyond the window. It also makes the list 6 pixels higher than the rows, whatever the
+// frame takes, and a part of the next row would show there.
 class HitList : public QListView {
  public:
   explicit HitList(const QWidget& field) : field_(field) {}
@@ -31,6 +34,7 @@ class HitList : public QListView {
  protected:
   void showEvent(QShowEvent* event) override {
     QListView::showEvent(event);
+    setMaximumHeight(hitsInSight * sizeHintForRow(0) + height() - viewport()->height());
     align();
   }
 
@@ -122,7 +126,7 @@ void FindField::buildList() {
   // with the text that was searched for.
   list->setCompletionRole(SearchHits::searchedRole);
   list->setFilterMode(Qt::MatchContains);
-  list->setMaxVisibleItems(12);
+  list->setMaxVisibleItems(hitsInSight);
   auto* const rows = new HitList(*this);
   list->setPopup(rows);
   rows->setEditTriggers(QAbstractItemView::NoEditTriggers);
