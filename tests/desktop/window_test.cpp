@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QEnterEvent>
+#include <QMainWindow>
+#include <QProxyStyle>
 #include <QTimer>
 #include <set>
 
@@ -40,6 +42,24 @@ class Window : public tests::WindowTest {
     EXPECT_NE(window->isWindowModified(), wanted.empty());
   }
 };
+
+/// Does what Breeze 6 does, which deletes any other widget that a main window has as its menu.
+class MenuAskingStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::polish;
+  void polish(QWidget* widget) override {
+    if (auto* const window = qobject_cast<QMainWindow*>(widget)) {
+      window->menuBar();
+    }
+  }
+};
+
+TEST_F(Window, KeepsItsMenusInStylesThatAskForThem) {
+  QApplication::setStyle(new MenuAskingStyle);
+  open();
+  EXPECT_TRUE(menuEntry("S&tart")->isEnabled());
+  QApplication::setStyle(QLatin1String("Fusion"));
+}
 
 TEST_F(Window, ReadsAsDescribedTabByTab) {
   openFirstPage("disk /a\njit true\n");
