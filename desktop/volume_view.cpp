@@ -241,9 +241,12 @@ void VolumeView::dragEnterEvent(QDragEnterEvent* event) {
   }
 }
 
+// Over the middle of a row, where nothing can fall, Qt does not repaint: the line would stay where
+// it was last.
 void VolumeView::dragMoveEvent(QDragMoveEvent* event) {
-  hovered_ = indexAt(event->position().toPoint());
   QTableView::dragMoveEvent(event);
+  hovered_ = event->isAccepted() ? indexAt(event->position().toPoint()) : QModelIndex();
+  viewport()->update();
 }
 
 // Versions of Qt later than 6.4 have QTableView::dropEvent, which moves the rows by itself, and
@@ -271,7 +274,10 @@ int VolumeView::sizeHintForColumn(int column) const {
 }
 
 void VolumeView::paintEvent(QPaintEvent* event) {
+  // Qt's own line, under the first column only, would stay over the middle of a row, too.
+  setDropIndicatorShown(false);
   QTableView::paintEvent(event);
+  setDropIndicatorShown(true);  // without it Qt does not tell where between the rows a drag is
   if (state() == DraggingState) {
     paintDropLine();
   }
