@@ -153,31 +153,38 @@ void VolumeDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
   }
 }
 
-int VolumeDelegate::usualWidth(const platform::TableColumn& column, QStyleOptionViewItem option) {
+// The table asks for the same few kinds and sizes of images whenever a row or its own width
+// changes, and the base class lays each of them out every time.
+QSize VolumeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  return measured(option.font, {index.column(), index.data().toString()},
+                  [&] { return QStyledItemDelegate::sizeHint(option, index); });
+}
+
+int VolumeDelegate::usualWidth(const platform::TableColumn& column, int number,
+                               QStyleOptionViewItem option) const {
   int width = 0;
   option.features |= QStyleOptionViewItem::HasDisplay;
   for (const std::string_view text : column.usual) {
     if (!text.empty()) {
       const QString known = toQString(std::string(text));
-      option.text = column.endsAtRight ? shownSize(known) : shownKind(known);
-      const QSize size = option.widget->style()->sizeFromContents(QStyle::CT_ItemViewItem, &option,
-                                                                  QSize(), option.widget);
+      const QSize size = measured(option.font, {number, known}, [&] {
+        option.text = column.endsAtRight ? shownSize(known) : shownKind(known);
+        return option.widget->style()->sizeFromContents(QStyle::CT_ItemViewItem, &option, QSize(),
+                                                        option.widget);
+      });
       width = std::max(width, size.width());
     }
   }
   return width;
 }
 
-// The table asks for the same few kinds and sizes of images whenever a row or its own width
-// changes, and the base class lays each of them out every time.
-QSize VolumeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  if (std::exchange(measuredFont_, option.font) != option.font) {
+QSize VolumeDelegate::measured(const QFont& font, const std::pair<int, QString>& text,
+                               const std::function<QSize()>& measure) const {
+  if (std::exchange(measuredFont_, font) != font) {
     sizes_.clear();
   }
-  const auto place = sizes_.find({index.column(), index.data().toString()});
-  return place != sizes_.end() ? *place
-                               : *sizes_.insert({index.column(), index.data().toString()},
-                                                QStyledItemDelegate::sizeHint(option, index));
+  const auto place = sizes_.find(text);
+  return place != sizes_.end() ? *place : *sizes_.insert(text, measure());
 }
 
 void VolumeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QHash>
 #include <QStyledItemDelegate>
+#include <functional>
 
 #include "platform/table_view.h"
 
@@ -26,13 +27,16 @@ class VolumeDelegate : public QStyledItemDelegate {
                                const QModelIndex& index) const override;
 
   /// How wide a cell with one of the usual texts of its column is at most.
-  [[nodiscard]] static int usualWidth(const platform::TableColumn& column,
-                                      QStyleOptionViewItem option);
+  [[nodiscard]] int usualWidth(const platform::TableColumn& column, int number,
+                               QStyleOptionViewItem option) const;
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
+  [[nodiscard]] QSize measured(const QFont& font, const std::pair<int, QString>& text,
+                               const std::function<QSize()>& measure) const;
+
   mutable QFont measuredFont_;
   mutable QHash<std::pair<int, QString>, QSize> sizes_;  // by column and text
 };

@@ -14,7 +14,6 @@
 
 #include "desktop/appearance.h"
 #include "desktop/texts.h"
-#include "desktop/volume_delegate.h"
 #include "desktop/volume_menu.h"
 
 namespace desktop {
@@ -51,14 +50,14 @@ class TableHeader : public QHeaderView {
 }  // namespace
 
 VolumeView::VolumeView(volumes::VolumeTable& volumes, const platform::Bundle& images)
-    : volumes_(volumes), model_(volumes, images, this) {
+    : volumes_(volumes), model_(volumes, images, this), delegate_(new VolumeDelegate(this)) {
   setObjectName(toQString(volumes.tableView.name()));
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   auto* const header = new TableHeader(this);
   setHorizontalHeader(header);  // before setModel(), or two headers measure their sections
   setModel(&model_);
-  setItemDelegate(new VolumeDelegate(this));
+  setItemDelegate(delegate_);
   setSelectionBehavior(SelectRows);
   setSelectionMode(ExtendedSelection);
   setDragDropMode(DragDrop);
@@ -270,7 +269,8 @@ int VolumeView::sizeHintForColumn(int column) const {
   initViewItemOption(&option);
   const platform::TableColumn& shown =
       volumes_.tableView.tableColumns()[static_cast<std::size_t>(column)];
-  return std::max(QTableView::sizeHintForColumn(column), VolumeDelegate::usualWidth(shown, option));
+  return std::max(QTableView::sizeHintForColumn(column),
+                  delegate_->usualWidth(shown, column, option));
 }
 
 void VolumeView::paintEvent(QPaintEvent* event) {

@@ -3,6 +3,7 @@
 #include <QKeySequence>
 #include <QTableView>
 
+#include "desktop/volume_delegate.h"
 #include "desktop/volume_model.h"
 #include "platform/bundle.h"
 #include "volumes/volume_table.h"
@@ -45,6 +46,7 @@ class VolumeView : public QTableView {
 
   volumes::VolumeTable& volumes_;
   VolumeModel model_;
+  VolumeDelegate* delegate_;
   std::size_t revision_ = 0;
   QModelIndex hovered_;  // the cell that a drag is over
   bool showing_ = false;
