@@ -55,6 +55,7 @@ void checkValues(const State& state, Collector& found) {
 
 void checkLines(const State& state, Collector& found) {
   const document::Lines saved(savedText(state));
+  const auto savedLines = saved.firstContaining(document::prefs);
   for (const document::KeyRow& row : document::keyTable) {
     const SettingState& setting = state.of(row.key);
     if (setting.foundLine && !setting.foundLine->starts_with(row.text)) {
@@ -65,7 +66,7 @@ void checkLines(const State& state, Collector& found) {
                 shortened(setting.value), std::string(nameOf(row.key)),
                 shortened(*setting.foundLine));
     }
-    const auto next = saved.firstContaining(row.text);
+    const auto next = savedLines[document::indexOf(row.key)];
     if (next && *next != document::Preferences::line(row.key, setting.value)) {
       found.add(Level::warning, row.key,
                 translatable("Checks",

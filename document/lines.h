@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -15,15 +16,20 @@ class Lines {
   Lines() = default;
   explicit Lines(std::string text) : text_(std::move(text)) {}
 
-  /// The first line that contains `part` anywhere. `part` is not empty and holds no line feed.
-  [[nodiscard]] std::optional<std::string_view> firstContaining(std::string_view part) const;
+  /// The first line that contains each of the parts anywhere, valid as long as this object is. A
+  /// part ends in its only blank, and has something before that.
+  [[nodiscard]] std::vector<std::optional<std::string_view>> firstContaining(
+      std::span<const std::string_view> parts) const;
 
-  /// All lines that contain `part` anywhere, valid as long as this object is.
+  /// All lines that contain `part` anywhere, valid as long as this object is. It is not empty and
+  /// holds no line feed.
   [[nodiscard]] std::vector<std::string_view> allContaining(std::string_view part) const;
 
  private:
   [[nodiscard]] std::optional<std::string_view> nextContaining(std::string_view part,
                                                                std::size_t from) const;
+
+  [[nodiscard]] std::string_view lineAt(std::size_t at) const;
 
   std::string text_;
 };

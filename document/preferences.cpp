@@ -64,6 +64,7 @@ void Preferences::readFile() {
   std::error_code error;
   if (auto text = platform::readTextFile(prefsPath, error)) {
     settings = Lines(*std::move(text));
+    firstLines_ = settings.firstContaining(prefs);
   } else {
     readError_ = reasonOf(error);
     output_.print("Failed reading from URL: ", prefsURL->text(), ", Error: ", error.message());
@@ -95,7 +96,7 @@ void Preferences::createFile() {
 void Preferences::lookUp(Key key, std::string_view foundLabel) {
   const std::string_view match = prefs[indexOf(key)];
   std::string value(defaults[indexOf(key)]);
-  const auto found = settings.firstContaining(match);
+  const auto found = firstLines_[indexOf(key)];
   if (found) {
     output_.print(foundLabel, *found);
     // A key text is ASCII: as many characters as bytes.

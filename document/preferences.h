@@ -102,6 +102,7 @@ class Preferences {
   std::string readError_;
   std::string saveError_;
   std::optional<platform::FileStamp> stamp_;
+  std::vector<std::optional<std::string_view>> firstLines_{keyCount};  // in settings, by key
   std::array<std::optional<std::string>, keyCount> foundLines_;
   std::array<std::string, keyCount> fileValues_;
 };
