@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>The ROM file &quot;%1&quot; is %2 bytes large and most likely no ROM: those are 64, 128, 256 or 512 KB, 1, 2 or 4 MB large.</source>
-        <translation>Le fichier ROM «&#xa0;%1&#xa0;» fait %2 octets et n’est très probablement pas une ROM&#xa0;: celles-ci font 64, 128, 256 ou 512 Ko, 1, 2 ou 4 Mo.</translation>
+        <translation>Le fichier ROM «&#xa0;%1&#xa0;» fait %2 octets et n’est très probablement pas une ROM&#xa0;: celles-ci font 64, 128, 256 ou 512 ko, 1, 2 ou 4 Mo.</translation>
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; cannot be reached: %2.</source>
@@ -311,7 +311,7 @@
     </message>
     <message>
         <source>in KB</source>
-        <translation>en Ko</translation>
+        <translation>en ko</translation>
     </message>
     <message>
         <source>Throws translated programs away only when they are really no longer valid. Faster.</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Cache si&amp;ze (KB)</source>
-        <translation>&amp;Taille du cache (Ko)</translation>
+        <translation>&amp;Taille du cache (ko)</translation>
     </message>
     <message>
         <source>Flush the cache lazil&amp;y</source>
@@ -804,7 +804,7 @@
     <name>Sizes</name>
     <message>
         <source>Zero KB</source>
-        <translation>Zéro Ko</translation>
+        <translation>Zéro ko</translation>
     </message>
     <message>
         <source>byte</source>
@@ -816,7 +816,7 @@
     </message>
     <message>
         <source>KB</source>
-        <translation>Ko</translation>
+        <translation>ko</translation>
     </message>
     <message>
         <source>MB</source>
