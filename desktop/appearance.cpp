@@ -2,10 +2,11 @@
 
 #include <QApplication>
 #include <QPainter>
-#include <QProxyStyle>
 #include <QStyleOption>
 #include <algorithm>
 #include <cmath>
+
+#include "desktop/late_style.h"
 
 namespace desktop {
 namespace {
@@ -40,13 +41,13 @@ bool hidesBorders(const QPalette& palette) {
 }
 
 // Qt's own style with borders in a colour between those of the text and of the window.
-class BorderedStyle : public QProxyStyle {
+class BorderedStyle : public LateStyle {
  public:
-  BorderedStyle() : QProxyStyle(QLatin1String("Fusion")) {}
+  BorderedStyle() : LateStyle(QLatin1String("Fusion")) {}
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    LateStyle::drawPrimitive(element, option, painter, widget);
     switch (element) {
       case PE_IndicatorRadioButton:
         drawBorder(option, painter, option->rect.height());
@@ -67,7 +68,7 @@ class BorderedStyle : public QProxyStyle {
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    LateStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_ComboBox || control == CC_SpinBox) {
       drawBorder(option, painter, 2);
     }
@@ -75,7 +76,7 @@ class BorderedStyle : public QProxyStyle {
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
-    QProxyStyle::drawControl(element, option, painter, widget);
+    LateStyle::drawControl(element, option, painter, widget);
     const bool selected = (option->state & State_Selected) != 0;
     if ((element == CE_TabBarTabShape && selected) || element == CE_ProgressBarGroove) {
       drawBorder(option, painter, 2);
@@ -142,8 +143,9 @@ void makeReadable() {
   if (better != palette) {
     QApplication::setPalette(better);
   }
-  if (hidesBorders(palette) && QApplication::style()->name() == QLatin1String("fusion")) {
-    QApplication::setStyle(new BorderedStyle);
+  if (QApplication::style()->name() == QLatin1String("fusion")) {
+    QApplication::setStyle(hidesBorders(palette) ? new BorderedStyle
+                                                 : new LateStyle(QApplication::style()));
   }
 }
 

@@ -21,6 +21,7 @@
 #include "desktop/icons.h"
 #include "desktop/lead_to.h"
 #include "desktop/pages.h"
+#include "desktop/pictures.h"
 #include "desktop/texts.h"
 #include "desktop/volume_view.h"
 
@@ -169,8 +170,8 @@ void SettingsWindow::fillPage(editor::TabId id) {
 void SettingsWindow::showIcon() const {
   QIcon icon;
   for (const char* const size : {"16", "32", "64", "128"}) {
-    icon.addFile(
-        toQString(host_.bundle.resource(std::string("icons/quillon-settings-") + size + ".png")));
+    addPicture(icon, toQString(host_.bundle.resource(std::string("icons/quillon-settings-") + size +
+                                                     ".png")));
   }
   QApplication::setWindowIcon(icon);
 }

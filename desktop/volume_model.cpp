@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include "desktop/pictures.h"
 #include "desktop/plain_text.h"
 #include "desktop/sizes.h"
 #include "desktop/texts.h"
@@ -112,7 +113,7 @@ const platform::TableCell* VolumeModel::cell(const QModelIndex& index) const {
 const QIcon& VolumeModel::image(const std::string& name) const {
   const auto [known, isNew] = icons_.try_emplace(name);
   if (isNew) {
-    known->second = QIcon(toQString(images_.resource(name)));
+    known->second = pictureOf(toQString(images_.resource(name)));
   }
   return known->second;
 }

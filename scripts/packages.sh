@@ -3,8 +3,8 @@
 
 libraryPackages=(cmake ninja-build pkg-config libplist-dev libutf8proc-dev)
 coreTestPackages=(g++ "${libraryPackages[@]}" libgtest-dev)
-buildPackages=(g++ "${libraryPackages[@]}" qt6-base-dev qt6-tools-dev qt6-l10n-tools qt6-wayland
-  qt6-translations-l10n)
+buildPackages=(g++ "${libraryPackages[@]}" libpng-dev qt6-base-dev qt6-tools-dev qt6-l10n-tools
+  qt6-wayland qt6-translations-l10n)
 testPackages=("${buildPackages[@]}" libgtest-dev xvfb dbus-daemon at-spi2-core python3-gi
   gir1.2-atspi-2.0)
 displayPackages=(xvfb xdotool imagemagick)
