@@ -3,8 +3,10 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets LinguistTools)
 pkg_check_modules(libpng REQUIRED IMPORTED_TARGET libpng)
 
 # The dynamic linker looks for each symbol of each library in these in their order: first those in
-# which it finds most of them, the compiler's before the small ones of the core.
-add_room(desktop PUBLIC Qt6::Widgets ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES}
+# which it finds most of them: Core before Widgets, which CMake would put in front, and the compiler's
+# before the small ones of the core.
+add_room(desktop PUBLIC $<TARGET_LINKER_FILE:Qt6::Core> $<TARGET_LINKER_FILE:Qt6::Gui> Qt6::Widgets
+         ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES}
          checks editor app volumes document platform PRIVATE PkgConfig::libpng)
 set_target_properties(desktop PROPERTIES AUTOMOC ON)
 
