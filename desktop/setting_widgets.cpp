@@ -137,14 +137,13 @@ void showState(const SettingWidget& place, bool isChanged, bool isDefault) {
   }
 }
 
+// Bold letters are at most a fifth wider. They are not measured: the first paint would wait until
+// their face is loaded.
 void keepRoomForMarks(const std::vector<QLabel*>& labels) {
   int width = 0;
   for (const QLabel* const label : labels) {
-    QLabel marked(label->text() + differenceMark());
-    QFont bold = label->font();
-    bold.setBold(true);
-    marked.setFont(bold);
-    width = std::max(width, marked.sizeHint().width());
+    const QLabel marked(label->text() + differenceMark());
+    width = std::max(width, marked.sizeHint().width() * 6 / 5);
   }
   for (QLabel* const label : labels) {
     label->setMinimumWidth(width);

@@ -58,17 +58,15 @@ class CellPainter {
   }
 
   void paintText(const QString& text) {
-    draw(text, cell_.font, text_, cell_.displayAlignment, cell_.textElideMode);
+    draw(text, text_, cell_.displayAlignment, cell_.textElideMode);
   }
 
   void paintPath(const QString& path) {
     const auto name = path.lastIndexOf(QLatin1Char('/')) + 1;
-    QFont strong = cell_.font;
-    strong.setBold(true);  // QHeaderView has loaded this face already, to measure its sections
-    const int width = draw(leftToRight(path.mid(name)), strong, text_,
-                           Qt::AlignLeading | Qt::AlignVCenter, Qt::ElideMiddle);
+    const int width = draw(leftToRight(path.mid(name)), text_, Qt::AlignLeading | Qt::AlignVCenter,
+                           Qt::ElideMiddle);
     take(width + cell_.fontMetrics.averageCharWidth(), Qt::AlignLeft);
-    draw(leftToRight(path.left(name)), cell_.font, faint_, Qt::AlignLeading | Qt::AlignVCenter,
+    draw(leftToRight(path.left(name)), faint_, Qt::AlignLeading | Qt::AlignVCenter,
          Qt::ElideMiddle);
   }
 
@@ -96,15 +94,15 @@ class CellPainter {
 
   /// Returns the width of what is drawn. A layout is measured and drawn in one go, where
   /// QPainter::drawText() would lay out the text again.
-  int draw(const QString& text, const QFont& font, const QColor& color, Qt::Alignment alignment,
+  int draw(const QString& text, const QColor& color, Qt::Alignment alignment,
            Qt::TextElideMode elide) {
     if (rest_.width() <= 0) {
       return 0;
     }
-    QTextLayout layout(text, font);
+    QTextLayout layout(text, cell_.font);
     QRectF lines = laidOut(layout);
     if (lines.width() > rest_.width()) {
-      layout.setText(QFontMetrics(font).elidedText(text, elide, rest_.width()));
+      layout.setText(cell_.fontMetrics.elidedText(text, elide, rest_.width()));
       lines = laidOut(layout);
     }
     const QSize size(qCeil(lines.width()), qCeil(lines.height()));

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyleOption>
 #include <algorithm>
 #include <set>
 
@@ -34,10 +35,13 @@ class TableHeader : public QHeaderView {
     }
   }
 
+  // QHeaderView measures in bold letters, in which it shows the columns of a selection: here it
+  // does not, and to load their face takes as long as all else of this list.
   [[nodiscard]] QSize sectionSizeFromContents(int section) const override {
-    const QSize size = QHeaderView::sectionSizeFromContents(section);
-    return endsAtRight(section) ? size + QSize(fontMetrics().horizontalAdvance(columnGap), 0)
-                                : size;
+    QStyleOptionHeader option;
+    initStyleOption(&option);
+    initStyleOptionForIndex(&option, section);
+    return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), this);
   }
 
  private:
