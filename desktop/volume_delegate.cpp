@@ -65,7 +65,7 @@ class CellPainter {
     const auto name = path.lastIndexOf(QLatin1Char('/')) + 1;
     const int width = draw(leftToRight(path.mid(name)), text_, Qt::AlignLeading | Qt::AlignVCenter,
                            Qt::ElideMiddle);
-    take(width + cell_.fontMetrics.averageCharWidth(), Qt::AlignLeft);
+    take(width + 2 * cell_.fontMetrics.averageCharWidth(), Qt::AlignLeft);
     draw(leftToRight(path.left(name)), faint_, Qt::AlignLeading | Qt::AlignVCenter,
          Qt::ElideMiddle);
   }
