@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/late_style.h"
+#include "desktop/quick_style.h"
 
 namespace desktop {
 namespace {
@@ -41,13 +41,13 @@ bool hidesBorders(const QPalette& palette) {
 }
 
 // Qt's own style with borders in a colour between those of the text and of the window.
-class BorderedStyle : public LateStyle {
+class BorderedStyle : public QuickStyle {
  public:
-  BorderedStyle() : LateStyle(QLatin1String("Fusion")) {}
+  BorderedStyle() : QuickStyle(QLatin1String("Fusion")) {}
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    LateStyle::drawPrimitive(element, option, painter, widget);
+    QuickStyle::drawPrimitive(element, option, painter, widget);
     switch (element) {
       case PE_IndicatorRadioButton:
         drawBorder(option, painter, option->rect.height());
@@ -68,7 +68,7 @@ class BorderedStyle : public LateStyle {
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
-    LateStyle::drawComplexControl(control, option, painter, widget);
+    QuickStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_ComboBox || control == CC_SpinBox) {
       drawBorder(option, painter, 2);
     }
@@ -76,7 +76,7 @@ class BorderedStyle : public LateStyle {
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
-    LateStyle::drawControl(element, option, painter, widget);
+    QuickStyle::drawControl(element, option, painter, widget);
     const bool selected = (option->state & State_Selected) != 0;
     if ((element == CE_TabBarTabShape && selected) || element == CE_ProgressBarGroove) {
       drawBorder(option, painter, 2);
@@ -145,7 +145,7 @@ void makeReadable() {
   }
   if (QApplication::style()->name() == QLatin1String("fusion")) {
     QApplication::setStyle(hidesBorders(palette) ? new BorderedStyle
-                                                 : new LateStyle(QApplication::style()));
+                                                 : new QuickStyle(QApplication::style()));
   }
 }
 

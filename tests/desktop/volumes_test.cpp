@@ -5,9 +5,12 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
+#include <QPixmapCache>
 #include <QTableView>
+#include <QThreadPool>
 #include <QTimer>
 #include <QToolButton>
+#include <filesystem>
 
 #include "desktop/appearance.h"
 #include "platform/files.h"
@@ -117,6 +120,34 @@ TEST_F(Volumes, TheirPictureIsReadWithoutPlugins) {
   EXPECT_EQ(image(cell(0).data(Qt::DecorationRole).value<QIcon>()),
             image(QIcon(QString::fromStdString(picture))));
   EXPECT_FALSE(find<QToolButton>("qt_menubar_ext_button")->icon().pixmap(16).isNull());
+}
+
+int pooledThreads() {
+  int count = 0;
+  for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
+    std::error_code error;
+    const auto name = platform::readFile(thread.path() / "comm", error);
+    count += name && name->starts_with("Thread (pooled") ? 1 : 0;
+  }
+  return count;
+}
+
+TEST_F(Volumes, LookAsQtPaintsThemButNoThreadsArePutToIt) {
+  const QPalette usual = QApplication::palette();
+  QApplication::setPalette(QPalette(/*button*/ Qt::yellow, /*window*/ Qt::cyan));
+  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    QApplication::setLayoutDirection(direction);
+    desktop::makeReadable();
+    openDisks("ABCDEFGHIJKL");
+    QPixmapCache::clear();                         // or sections of the header come from there
+    QThreadPool::globalInstance()->waitForDone();  // ends the threads that it has
+    const QImage own = tabs()->grab().toImage();
+    EXPECT_EQ(pooledThreads(), 0);
+    QApplication::setStyle(QLatin1String("Fusion"));
+    EXPECT_EQ(own, tabs()->grab().toImage());
+  }
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+  QApplication::setPalette(usual);
 }
 
 TEST_F(Volumes, KeysAndClicks) {
