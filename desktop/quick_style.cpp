@@ -93,7 +93,7 @@ void QuickStyle::drawControl(ControlElement element, const QStyleOption* option,
 }
 
 // The section is the same all along, but for a line at its end, which pieces must not have that
-// do not reach to it. Fusion keeps a picture of each width, so that all of them are one picture.
+// do not reach to it. Fusion keeps a picture of each width, so that most of them are one picture.
 void QuickStyle::drawHeaderSection(const QStyleOptionHeader& header, QPainter& painter,
                                    const QWidget* widget) const {
   constexpr int end = 2;

@@ -141,8 +141,9 @@ TEST_F(Volumes, LookAsQtPaintsThemButNoThreadsArePutToIt) {
     openDisks("ABCDEFGHIJKL");
     QPixmapCache::clear();                         // or sections of the header come from there
     QThreadPool::globalInstance()->waitForDone();  // ends the threads that it has
+    const int others = pooledThreads();            // Qt 6.8 has another pool, whose threads stay
     const QImage own = tabs()->grab().toImage();
-    EXPECT_EQ(pooledThreads(), 0);
+    EXPECT_EQ(pooledThreads(), others);
     QApplication::setStyle(QLatin1String("Fusion"));
     EXPECT_EQ(own, tabs()->grab().toImage());
   }
