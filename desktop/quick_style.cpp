@@ -125,7 +125,6 @@ void QuickStyle::drawScrollBar(const QStyleOptionComplex& bar, QPainter& painter
     strip.fill(Qt::transparent);
     QPainter stripPainter(&strip);
     stripPainter.translate(-rest.topLeft());
-    stripPainter.setClipRect(rest);
     QProxyStyle::drawComplexControl(CC_ScrollBar, &bar, &stripPainter, widget);
     painter.drawPixmap(rest.topLeft(), strip);
   }
