@@ -38,6 +38,8 @@ void paintBorderApart(QPainter& painter, const QRect& rect, const Paint& paint) 
   paintClipped(painter, inner, paint);
 }
 
+// QMenuBar asks for the picture of its extension button whether or not its entries have room, and
+// Qt's own styles read it with QImageReader, which loads all of Qt's plugins for pictures.
 class LateEngine : public QIconEngine {
  public:
   LateEngine(const QStyle* style, QStyle::StandardPixmap picture)
